@@ -1,0 +1,52 @@
+#include "core/boundary.h"
+
+#include <typeinfo>
+
+#include "core/errors.h"
+#include "core/platform.h"
+
+namespace {
+
+constexpr HRESULT hresult_from_win32(std::uint32_t code) noexcept
+{
+    // The code is not masked to 16 bits.
+    return static_cast<HRESULT>(0x80070000u | code);
+}
+
+// A new error object describing `e`; null when none can be made.
+com::error_info* describe(const std::exception& e) noexcept
+{
+    wchar description[1024];
+    platform::utf8_to_utf16(e.what(), description, std::size(description));
+    return platform::create_error_info(description);
+}
+
+} // namespace
+
+HRESULT exception_result(const std::exception& e) noexcept
+{
+    const std::type_info& type = typeid(e);
+    HRESULT result = DISP_E_EXCEPTION;
+    com::error_info* info = nullptr;
+
+    if (type == typeid(com::error)) {
+        const auto& error = static_cast<const com::error&>(e);
+        result = error.code();
+        info = error.info();
+        platform::add_ref(info);
+    } else if (type == typeid(win32::error)) {
+        result = hresult_from_win32(static_cast<const win32::error&>(e).code());
+    } else if (type == typeid(bad_pointer)) {
+        result = E_POINTER;
+    } else if (type == typeid(not_implemented)) {
+        result = E_NOTIMPL;
+    } else if (type == typeid(not_expected)) {
+        result = E_UNEXPECTED;
+    } else {
+        info = describe(e);
+    }
+
+    platform::set_error_info(info);
+    platform::release(info);
+    return result;
+}

@@ -1,0 +1,110 @@
+#include "core/enum_eventui.h"
+
+#include <cstring>
+#include <new>
+
+#include "module/module_lock.h"
+
+CEnumEVENTUI::CEnumEVENTUI() noexcept
+{
+    module::lock();
+}
+
+CEnumEVENTUI::~CEnumEVENTUI()
+{
+    if (lockInitialised_)
+        DeleteCriticalSection(&lock_);
+    module::unlock();
+}
+
+HRESULT CEnumEVENTUI::Create(const event_type_row* begin, const event_type_row* end, IEnumEVENTUI** ppEnum)
+{
+    if (!ppEnum)
+        return E_POINTER;
+    auto* object = new (std::nothrow) CEnumEVENTUI;
+    if (!object)
+        return E_OUTOFMEMORY;
+    if (!InitializeCriticalSectionAndSpinCount(&object->lock_, 0)) {
+        const HRESULT result = HRESULT_FROM_WIN32(GetLastError());
+        delete object;
+        return result;
+    }
+    object->lockInitialised_ = true;
+    object->begin_ = object->cur_ = begin;
+    object->end_ = end;
+    object->AddRef();
+    *ppEnum = object;
+    return S_OK;
+}
+
+HRESULT CEnumEVENTUI::QueryInterface(REFIID riid, void** ppv)
+{
+    if (!ppv)
+        return E_POINTER;
+    if (IsEqualIID(riid, IID_IUnknown) || IsEqualIID(riid, IID_IEnumEVENTUI)) {
+        *ppv = static_cast<IEnumEVENTUI*>(this);
+        AddRef();
+        return S_OK;
+    }
+    *ppv = nullptr;
+    return E_NOINTERFACE;
+}
+
+ULONG CEnumEVENTUI::AddRef()
+{
+    return refs_.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
+ULONG CEnumEVENTUI::Release()
+{
+    const ULONG count = refs_.fetch_sub(1, std::memory_order_acq_rel) - 1;
+    if (count == 0) {
+        // The module must not look unloadable while its code is still running
+        // the destructor.
+        module::lock_guard hold;
+        delete this;
+    }
+    return count;
+}
+
+HRESULT CEnumEVENTUI::Next(ULONG celt, EVENTUI* rgelt, ULONG* pceltFetched)
+{
+    if (!rgelt && celt != 0)
+        return E_POINTER;
+    ULONG fetched = 0;
+    while (fetched < celt && cur_ != end_) {
+        EVENTUI& record = rgelt[fetched];
+        std::memcpy(&record.eventType, cur_->eventType, sizeof(GUID));
+        record.xmlRenderer = cur_->xmlRenderer;
+        record.reserved = cur_->reserved;
+        record.textRenderer = cur_->textRenderer;
+        record.name = cur_->name;
+        ++cur_;
+        ++fetched;
+    }
+    if (pceltFetched)
+        *pceltFetched = fetched;
+    return fetched == celt ? S_OK : S_FALSE;
+}
+
+HRESULT CEnumEVENTUI::Skip(ULONG celt)
+{
+    ULONG skipped = 0;
+    while (skipped < celt && cur_ != end_) {
+        ++cur_;
+        ++skipped;
+    }
+    return skipped == celt ? S_OK : S_FALSE;
+}
+
+HRESULT CEnumEVENTUI::Reset()
+{
+    cur_ = begin_;
+    return S_OK;
+}
+
+HRESULT CEnumEVENTUI::Clone(IEnumEVENTUI** ppEnum)
+{
+    // Deliberately from the start of the range, not from this position.
+    return Create(begin_, end_, ppEnum);
+}

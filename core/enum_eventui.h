@@ -1,0 +1,35 @@
+// The enumerator over the event type table that UI_EnumEVENTUI hands out.
+#pragma once
+
+#include <atomic>
+
+#include "core/event_types.h"
+#include "include/korps/korps.h"
+
+class CEnumEVENTUI final : public IEnumEVENTUI {
+public:
+    // A new enumerator over [begin, end) standing at begin, with one
+    // reference, in *ppEnum. Failures leave *ppEnum unchanged.
+    static HRESULT Create(const event_type_row* begin, const event_type_row* end, IEnumEVENTUI** ppEnum);
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** ppv) override;
+    ULONG STDMETHODCALLTYPE AddRef() override;
+    ULONG STDMETHODCALLTYPE Release() override;
+    HRESULT STDMETHODCALLTYPE Next(ULONG celt, EVENTUI* rgelt, ULONG* pceltFetched) override;
+    HRESULT STDMETHODCALLTYPE Skip(ULONG celt) override;
+    HRESULT STDMETHODCALLTYPE Reset() override;
+    HRESULT STDMETHODCALLTYPE Clone(IEnumEVENTUI** ppEnum) override;
+
+private:
+    CEnumEVENTUI() noexcept;
+    ~CEnumEVENTUI();
+
+    std::atomic<ULONG> refs_{0};
+    // Kept for the enumerator's contract: its creation may fail and is
+    // reported; no method enters it, since one enumerator serves one thread.
+    CRITICAL_SECTION lock_;
+    bool lockInitialised_ = false;
+    const event_type_row* begin_ = nullptr;
+    const event_type_row* cur_ = nullptr;
+    const event_type_row* end_ = nullptr;
+};

@@ -1,0 +1,100 @@
+// XML output: element writing on top of the indented stream.
+//
+// Opening an element writes its start tag without the closing ">", so that
+// attributes can still follow; the first write of anything else closes it.
+// Nothing is escaped: the fragments are built from known literals and from
+// payload text taken as it stands.
+#pragma once
+
+#include <deque>
+#include <string_view>
+
+#include "core/indented_stream.h"
+
+namespace io::xml::output {
+
+template <class Char, class Base>
+class stream : public Base {
+public:
+    using Base::Base;
+
+    void write(const char* s, std::size_t n)
+    {
+        close_start_tag();
+        Base::write(s, n);
+    }
+
+    void write(const Char* s, std::size_t n)
+    {
+        close_start_tag();
+        Base::write(s, n);
+    }
+
+    // Writes "<name" and leaves the start tag open.
+    void open_element(std::string_view name)
+    {
+        write("<", 1);
+        Base::write(name.data(), name.size());
+        elements_.push_back({name});
+        tagClosed = false;
+    }
+
+    // Adds ` name="value"` to the open start tag.
+    template <class Value>
+    void attribute(std::string_view name, const Value& value)
+    {
+        if (tagClosed)
+            throw io::error("unexpected attribute");
+        Base::write(" ", 1);
+        Base::write(name.data(), name.size());
+        Base::write("=\"", 2);
+        static_cast<Base&>(*this) << value;   // bypasses the closing of the tag
+        Base::write("\"", 1);
+    }
+
+    // "/>" when the start tag is still open, else the end tag.
+    void close_element()
+    {
+        if (elements_.empty())
+            throw io::error("no open element");
+        const open_tag top = elements_.back();
+        if (!tagClosed) {
+            Base::write("/>", 2);
+            tagClosed = true;
+        } else {
+            Base::write("</", 2);
+            Base::write(top.name.data(), top.name.size());
+            Base::write(">", 1);
+        }
+        elements_.pop_back();
+    }
+
+    // An element holding one value as text: <name>value</name>.
+    template <class Value>
+    void element(std::string_view name, const Value& value)
+    {
+        open_element(name);
+        close_start_tag();
+        *this << value;
+        close_element();
+    }
+
+    bool tagClosed = true;
+
+private:
+    struct open_tag {
+        std::string_view name;   // names are literals of the module
+    };
+
+    void close_start_tag()
+    {
+        if (!tagClosed) {
+            Base::write(">", 1);
+            tagClosed = true;
+        }
+    }
+
+    std::deque<open_tag> elements_;
+};
+
+} // namespace io::xml::output

@@ -1,0 +1,89 @@
+/*
+ * KORPS: the event renderers and device monikers of the Orrin management
+ * console, as a host sees them.
+ *
+ * The header is for C++ hosts. A host loads korps.dll, resolves the exports below with GetProcAddress,
+ * registers its alarm names once with RegisterAlarmTypeMap, then enumerates
+ * the event types once with UI_EnumEVENTUI and keeps the renderer pointers of
+ * each EVENTUI record for as long as the module stays loaded.
+ */
+#ifndef KORPS_KORPS_H
+#define KORPS_KORPS_H
+
+#include <windows.h>
+#include <unknwn.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/*
+ * Renders one event payload as an XML fragment into buffer (capacity UTF-16
+ * units, terminating NUL included). context is not read. Returns S_OK,
+ * E_UNEXPECTED for a payload of the wrong fixed size, E_POINTER for a null
+ * buffer, or the failure of the rendering (DISP_E_EXCEPTION with an error
+ * object describing it, among others). After a failure the buffer holds the
+ * text written up to the failing piece, still NUL-terminated.
+ */
+typedef HRESULT(__stdcall* EventXmlRenderer)(void* context, UINT payloadBytes, const BYTE* payload,
+                                             WCHAR* buffer, UINT capacity);
+
+/* As above, for one line of text; stores the display colour (a COLORREF,
+   0x00BBGGRR) on success. */
+typedef HRESULT(__stdcall* EventTextRenderer)(void* context, UINT payloadBytes, const BYTE* payload,
+                                              WCHAR* buffer, UINT capacity, UINT* colour);
+
+/* One event type: 32 bytes on the 32-bit target, no padding. */
+typedef struct EVENTUI {
+    GUID eventType;
+    EventXmlRenderer xmlRenderer; /* null when the type has no XML form */
+    UINT reserved;                /* always 0 */
+    EventTextRenderer textRenderer;
+    const WCHAR* name;            /* module-owned; valid while the module is loaded */
+} EVENTUI;
+
+#if defined(__cplusplus) && !defined(_WIN64)
+static_assert(sizeof(EVENTUI) == 32, "EVENTUI crosses the module boundary as 32 bytes");
+#endif
+
+#ifdef __cplusplus
+} /* extern "C" */
+
+/*
+ * Hands out the event type table. Next copies records and returns S_FALSE
+ * when fewer than asked were left; Clone starts the copy at the first record
+ * again, whatever the position of its source.
+ */
+MIDL_INTERFACE("d3685424-6ac4-4f3f-8c8e-11007b462695")
+IEnumEVENTUI : public IUnknown
+{
+    virtual HRESULT STDMETHODCALLTYPE Next(ULONG celt, EVENTUI* rgelt, ULONG* pceltFetched) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Skip(ULONG celt) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Reset() = 0;
+    virtual HRESULT STDMETHODCALLTYPE Clone(IEnumEVENTUI** ppEnum) = 0;
+};
+#ifdef __CRT_UUID_DECL
+__CRT_UUID_DECL(IEnumEVENTUI, 0xd3685424, 0x6ac4, 0x4f3f, 0x8c, 0x8e, 0x11, 0x00, 0x7b, 0x46, 0x26, 0x95)
+#endif
+
+static const IID IID_IEnumEVENTUI = {0xd3685424, 0x6ac4, 0x4f3f, {0x8c, 0x8e, 0x11, 0x00, 0x7b, 0x46, 0x26, 0x95}};
+
+extern "C" {
+#endif
+
+/* One alarm type for RegisterAlarmTypeMap: 20 bytes on the 32-bit target.
+   The module keeps the name pointer, not a copy. */
+typedef struct ALARMTYPE {
+    GUID id;
+    const char* name;
+} ALARMTYPE;
+
+/* Export signatures, for GetProcAddress. */
+typedef HRESULT(__stdcall* UI_EnumEVENTUI_t)(IEnumEVENTUI** ppEnum);
+typedef int(__cdecl* RegisterAlarmTypeMap_t)(int count, const ALARMTYPE* records);
+
+#ifdef __cplusplus
+} /* extern "C" */
+#endif
+
+#endif /* KORPS_KORPS_H */

@@ -1,0 +1,33 @@
+// The module's exported entry points. None lets an exception out.
+#include <type_traits>
+
+#include "core/enum_eventui.h"
+#include "core/event_types.h"
+#include "module/module_lock.h"
+
+static_assert(std::is_same_v<::EventXmlRenderer, decltype(EVENTUI::xmlRenderer)>,
+              "the core's renderer shape is the host's");
+static_assert(std::is_same_v<::EventTextRenderer, decltype(EVENTUI::textRenderer)>,
+              "the core's renderer shape is the host's");
+
+extern "C" {
+
+HRESULT __stdcall UI_EnumEVENTUI(IEnumEVENTUI** ppEnum)
+{
+    const auto rows = event_types();
+    return CEnumEVENTUI::Create(rows.data(), rows.data() + rows.size(), ppEnum);
+}
+
+HRESULT __stdcall DllCanUnloadNow()
+{
+    return module::lock_count() == 0 ? S_OK : S_FALSE;
+}
+
+BOOL __stdcall DllMain(HINSTANCE instance, DWORD reason, void*)
+{
+    if (reason == DLL_PROCESS_ATTACH)
+        DisableThreadLibraryCalls(instance);
+    return TRUE;
+}
+
+} // extern "C"

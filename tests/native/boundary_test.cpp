@@ -1,0 +1,60 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "core/boundary.h"
+#include "core/errors.h"
+#include "tests/native/test_text.h"
+
+namespace {
+
+class derived_bad_pointer : public bad_pointer {};
+
+TEST(Boundary, MapsByExactType)
+{
+    com::error_info* carried = platform::create_error_info(WSTR("from the stream"));
+    struct Case {
+        const char* name;
+        std::function<void()> raise;
+        HRESULT result;
+        const char* description;   // null: no error object
+    };
+    const Case cases[] = {
+        {"com::error", [&] { throw com::error(static_cast<HRESULT>(0x80030201), carried); },
+         static_cast<HRESULT>(0x80030201), "from the stream"},
+        {"win32::error", [] { throw win32::error(0x80005); }, static_cast<HRESULT>(0x800F0005), nullptr},
+        {"bad_pointer", [] { throw bad_pointer(); }, E_POINTER, nullptr},
+        {"not_implemented", [] { throw not_implemented(); }, E_NOTIMPL, nullptr},
+        {"not_expected", [] { throw not_expected(); }, E_UNEXPECTED, nullptr},
+        {"io::overflow", [] { throw io::overflow(); }, DISP_E_EXCEPTION, "an overflow occured"},
+        {"io::underflow", [] { throw io::underflow(); }, DISP_E_EXCEPTION, "an underflow occured"},
+        {"old_error", [] { throw io::end_of_file(); }, DISP_E_EXCEPTION,
+         "The end of file was reached durring an IO operation."},
+        {"runtime_error", [] { throw std::runtime_error("bad alarm id"); }, DISP_E_EXCEPTION, "bad alarm id"},
+        {"plain exception", [] { throw std::exception(); }, DISP_E_EXCEPTION, "std::exception"},
+        {"derived from bad_pointer", [] { throw derived_bad_pointer(); }, DISP_E_EXCEPTION, "invalid pointer"},
+    };
+    for (const Case& c : cases) {
+        const HRESULT result = guarded([&] {
+            c.raise();
+            return S_OK;
+        });
+        EXPECT_EQ(result, c.result) << c.name;
+        com::error_info* info = platform::take_error_info();
+        if (c.description) {
+            ASSERT_NE(info, nullptr) << c.name;
+            EXPECT_EQ(platform::error_info_description(info), c.description) << c.name;
+        } else {
+            EXPECT_EQ(info, nullptr) << c.name;
+        }
+        platform::release(info);
+    }
+    platform::release(carried);
+}
+
+TEST(Boundary, SuccessPassesThrough)
+{
+    EXPECT_EQ(guarded([] { return S_FALSE; }), S_FALSE);
+}
+
+} // namespace

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+
+#include "core/errors.h"
+#include "tests/native/test_text.h"
+
+namespace {
+
+struct identifier_tag {};
+
+TEST(Errors, MessagesAndHierarchy)
+{
+    EXPECT_STREQ(io::overflow().what(), "an overflow occured");
+    EXPECT_STREQ(io::underflow().what(), "an underflow occured");
+    EXPECT_STREQ(not_expected().what(), "Catastrophic failure");
+    EXPECT_STREQ(text::integer_overflow().what(), "integer overflow");
+    EXPECT_STREQ(io::end_of_file().what(), "The end of file was reached durring an IO operation.");
+    EXPECT_STREQ(generic_error_t<wchar_t>(WSTR("decimal overflow")).what(), "decimal overflow");
+    EXPECT_STREQ(io::expected_value<char>("-").what(), "Expected a char with a value of '-'.");
+    EXPECT_STREQ(io::expected_value<char[2]>("-").what(), "Expected a char [2] with a value of '-'.");
+    EXPECT_STREQ(io::unexpected_value<char>('-').what(), "Encountered a char with an enexpected value of '-'.");
+    EXPECT_STREQ(io::expected_type<identifier_tag>().what(), "Expected a (anonymous namespace)::identifier_tag.");
+
+    // Callers catch by these bases.
+    const std::unique_ptr<std::exception> overflow = std::make_unique<io::overflow>();
+    EXPECT_NE(dynamic_cast<io::error*>(overflow.get()), nullptr);
+    EXPECT_NE(dynamic_cast<std::runtime_error*>(overflow.get()), nullptr);
+    const std::unique_ptr<std::exception> integer = std::make_unique<text::integer_overflow>();
+    EXPECT_NE(dynamic_cast<std::overflow_error*>(integer.get()), nullptr);
+    const std::unique_ptr<std::exception> eof = std::make_unique<io::end_of_file>();
+    EXPECT_NE(dynamic_cast<old_error*>(eof.get()), nullptr);
+    const std::unique_ptr<std::exception> unexpected = std::make_unique<not_expected>();
+    EXPECT_NE(dynamic_cast<std::logic_error*>(unexpected.get()), nullptr);
+}
+
+TEST(Errors, OldErrorFormatTruncatesToTheBuffer)
+{
+    const io::expected_value<char> error("-");
+    struct Case {
+        std::size_t size;
+        const char* expected;
+    };
+    for (const Case& c : std::initializer_list<Case>{{5, "Expe"},
+                                                     {2, "E"},
+                                                     {13, "Expected a c"},
+                                                     {64, "Expected a char with a value of '-'."}}) {
+        std::array<wchar, 80> buffer;
+        buffer.fill(0xCCCC);
+        error.format(buffer.data(), c.size);
+        EXPECT_EQ(utf8(buffer.data()), c.expected) << c.size;
+        EXPECT_EQ(buffer[c.size], 0xCCCC) << "wrote past " << c.size;
+    }
+    for (std::size_t size : {0u, 1u}) {
+        wchar unit = 0xCCCC;
+        error.format(&unit, size);
+        EXPECT_EQ(unit, 0xCCCC) << "a buffer of " << size << " is left alone";
+    }
+}
+
+TEST(Errors, ComErrorMessage)
+{
+    // Without an error object and without system messages (the native build
+    // has none) the code itself is named.
+    const com::error unknown(static_cast<HRESULT>(0x80041234));
+    EXPECT_STREQ(unknown.what(), "unknown error (0x80041234) occurred");
+    EXPECT_EQ(unknown.code(), static_cast<HRESULT>(0x80041234));
+
+    com::error_info* info = platform::create_error_info(WSTR("disk on fire"));
+    const com::error described(E_FAIL, info);
+    platform::release(info);
+    EXPECT_STREQ(described.what(), "disk on fire");
+    EXPECT_EQ(described.info(), info) << "the error keeps its own reference";
+
+    com::error_info* empty = platform::create_error_info(WSTR(""));
+    const com::error undescribed(E_FAIL, empty);
+    platform::release(empty);
+    EXPECT_STREQ(undescribed.what(), "unknown error (0x80004005) occurred");
+}
+
+} // namespace

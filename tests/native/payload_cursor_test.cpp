@@ -1,0 +1,112 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "core/payload_cursor.h"
+#include "tests/native/test_text.h"
+
+namespace {
+
+std::vector<std::uint8_t> counted_text(std::size_t count, std::size_t units_present)
+{
+    std::vector<std::uint8_t> bytes{static_cast<std::uint8_t>(count), static_cast<std::uint8_t>(count >> 8)};
+    for (std::size_t i = 0; i < units_present; ++i) {
+        bytes.push_back(static_cast<std::uint8_t>('a' + i % 26));
+        bytes.push_back(0);
+    }
+    return bytes;
+}
+
+TEST(PayloadCursor, ReadsLittleEndianUnaligned)
+{
+    const std::uint8_t bytes[] = {0xAA, 0x01, 0x02, 0x03, 0x04, 0x05, 0xFF, 0xFF, 0xFF, 0xFF, 0x34, 0x12};
+    payload_cursor in(bytes, sizeof bytes);
+    EXPECT_EQ(in.read_u8(), 0xAA);
+    EXPECT_EQ(in.read_u32(), 0x04030201u);
+    EXPECT_EQ(in.read_u8(), 0x05);
+    EXPECT_EQ(in.read_i32(), -1);
+    EXPECT_EQ(in.read_u16(), 0x1234);
+    EXPECT_EQ(in.remaining(), 0u);
+    EXPECT_THROW(in.read_u8(), io::underflow);
+}
+
+TEST(PayloadCursor, ShortReadsUnderflowWithoutConsuming)
+{
+    const std::uint8_t bytes[] = {1, 2, 3};
+    struct Case {
+        const char* what;
+        void (*read)(payload_cursor&);
+    };
+    const Case cases[] = {
+        {"u32 from 3 bytes", [](payload_cursor& in) { in.read_u32(); }},
+        {"i32 from 3 bytes", [](payload_cursor& in) { in.read_i32(); }},
+        {"u64 from 3 bytes", [](payload_cursor& in) { in.read_u64(); }},
+        {"4 bytes from 3", [](payload_cursor& in) { in.take(4); }},
+    };
+    for (const Case& c : cases) {
+        payload_cursor in(bytes, sizeof bytes);
+        try {
+            c.read(in);
+            ADD_FAILURE() << c.what << " succeeded";
+        } catch (const io::underflow& e) {
+            EXPECT_STREQ(e.what(), "an underflow occured");
+        }
+        EXPECT_EQ(in.remaining(), 3u) << c.what;
+    }
+    payload_cursor one(bytes, 1);
+    EXPECT_THROW(one.read_u16(), io::underflow);
+}
+
+TEST(PayloadCursor, WideStringLimits)
+{
+    struct Case {
+        std::size_t count;
+        std::size_t present;
+        enum { ok, overflow, underflow } outcome;
+    };
+    for (const Case& c : std::initializer_list<Case>{{0, 0, Case::ok},
+                                                     {3, 3, Case::ok},
+                                                     {259, 259, Case::ok},
+                                                     {260, 260, Case::overflow},
+                                                     {260, 0, Case::overflow},   // the count is checked first
+                                                     {0xFFFF, 0, Case::overflow},
+                                                     {2, 1, Case::underflow}}) {
+        auto bytes = counted_text(c.count, c.present);
+        if (c.count == 2)
+            bytes.push_back('x');   // 3 bytes of text for 2 units
+        payload_cursor in(bytes.data(), bytes.size());
+        switch (c.outcome) {
+        case Case::ok: {
+            const payload_text text = in.read_wstring();
+            EXPECT_EQ(text.size(), c.count);
+            EXPECT_EQ(text.c_str()[c.count], 0);
+            EXPECT_EQ(in.remaining(), 0u);
+            break;
+        }
+        case Case::overflow:
+            EXPECT_THROW(in.read_wstring(), io::overflow) << c.count;
+            break;
+        case Case::underflow:
+            EXPECT_THROW(in.read_wstring(), io::underflow) << c.count;
+            break;
+        }
+    }
+}
+
+TEST(PayloadCursor, WideStringContent)
+{
+    const std::uint8_t bytes[] = {0x03, 0x00, 0x41, 0x00, 0x42, 0x00, 0xAC, 0x20, 0xEE};
+    payload_cursor in(bytes, sizeof bytes);
+    EXPECT_EQ(utf8(in.read_wstring()), "AB\xE2\x82\xAC");
+    EXPECT_EQ(in.cur - in.begin, 8);
+}
+
+TEST(PayloadCursor, NarrowString)
+{
+    const std::uint8_t bytes[] = {0x02, 0x00, 'h', 'i', '!'};
+    payload_cursor in(bytes, sizeof bytes);
+    EXPECT_EQ(in.read_string(), "hi");
+    EXPECT_EQ(in.remaining(), 1u);
+}
+
+} // namespace

@@ -1,0 +1,173 @@
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "core/event_output.h"
+#include "core/text_format.h"
+#include "tests/native/test_text.h"
+
+namespace {
+
+constexpr wchar canary = 0xCCCC;
+
+template <std::size_t N>
+struct guarded_buffer {
+    std::array<wchar, N + 1> units;
+    guarded_buffer() { units.fill(canary); }
+    wchar* data() { return units.data(); }
+    bool intact() const { return units[N] == canary; }
+};
+
+TEST(OutputStream, PieceFitsOnlyWithRoomForTheTerminator)
+{
+    struct Case {
+        std::size_t capacity;
+        std::string_view piece;
+        bool fits;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {4, "abc", true}, {4, "abcd", false}, {1, "", true}, {1, "a", false}, {2, "a", true}, {10, "", true}}) {
+        guarded_buffer<16> buffer;
+        ui::event::text_output out(buffer.data(), c.capacity);
+        out << "";
+        if (c.fits) {
+            out << c.piece;
+            EXPECT_EQ(utf8(buffer.data()), c.piece);
+        } else {
+            EXPECT_THROW(out << c.piece, io::overflow);
+            EXPECT_EQ(buffer.units[0], 0) << "a refused piece leaves the buffer as it was";
+        }
+        EXPECT_EQ(buffer.units[c.capacity], canary) << "capacity " << c.capacity;
+    }
+}
+
+TEST(OutputStream, OverflowKeepsEarlierText)
+{
+    guarded_buffer<8> buffer;
+    ui::event::text_output out(buffer.data(), 8);
+    out << "abc" << WSTR("def");
+    EXPECT_THROW(out << "gh", io::overflow);
+    EXPECT_EQ(utf8(buffer.data()), "abcdef");
+    EXPECT_TRUE(buffer.intact());
+}
+
+TEST(OutputStream, ZeroCapacityWritesNothing)
+{
+    wchar unit = canary;
+    EXPECT_THROW(ui::event::text_output(&unit, 0), io::overflow);
+    EXPECT_EQ(unit, canary);
+}
+
+TEST(OutputStream, NarrowTextIsWidenedWithTheAnsiCodePage)
+{
+    std::array<wchar, 8> buffer{};
+    ui::event::text_output out(buffer.data(), buffer.size());
+    out << "\x80\xE9";   // euro sign and e acute in Windows-1252
+    EXPECT_EQ(buffer[0], 0x20AC);
+    EXPECT_EQ(buffer[1], 0x00E9);
+}
+
+TEST(IndentedStream, FillIsWrittenLazilyWithEachLine)
+{
+    std::array<wchar, 64> buffer{};
+    ui::event::xml_output out(buffer.data(), buffer.size());
+    out.indent = 3;
+    out << "a\nb\n";
+    out << "";
+    EXPECT_EQ(utf8(buffer.data()), "   a\n   b\n");
+    out << WSTR("c");
+    EXPECT_EQ(utf8(buffer.data()), "   a\n   b\n   c");
+}
+
+TEST(IndentedStream, FillThatDoesNotFitOverflows)
+{
+    std::array<wchar, 3> buffer{};
+    ui::event::xml_output out(buffer.data(), buffer.size());
+    out.indent = 3;
+    EXPECT_THROW(out << "x", io::overflow);
+    EXPECT_EQ(buffer[0], 0);
+
+    // With room for the fill but not the line, the fill stays behind.
+    std::array<wchar, 4> tight{};
+    ui::event::xml_output line(tight.data(), tight.size());
+    line.indent = 3;
+    EXPECT_THROW(line << "x", io::overflow);
+    EXPECT_EQ(utf8(tight.data()), "   ");
+}
+
+TEST(XmlStream, PendingStartTagIsClosedByTheNextWrite)
+{
+    struct Case {
+        const char* name;
+        void (*write)(ui::event::xml_output&);
+        const char* expected;
+    };
+    const Case cases[] = {
+        {"element with text", [](auto& out) { out.element("source", WSTR("unit")); }, "<source>unit</source>"},
+        {"empty element", [](auto& out) { out.open_element("e"); out.close_element(); }, "<e/>"},
+        {"attributes then content",
+         [](auto& out) {
+             out.open_element("device");
+             out.attribute("address", decimal(2));
+             out.attribute("name", WSTR("a&b"));
+             out << "\n";
+             out.element("raised", "AGC");
+             out.close_element();
+         },
+         "<device address=\"2\" name=\"a&b\">\n<raised>AGC</raised></device>"},
+        {"nested open tags",
+         [](auto& out) {
+             out.open_element("a");
+             out.open_element("b");
+             out.close_element();
+             out.close_element();
+         },
+         "<a><b/></a>"},
+    };
+    for (const Case& c : cases) {
+        std::array<wchar, 128> buffer{};
+        ui::event::xml_output out(buffer.data(), buffer.size());
+        c.write(out);
+        EXPECT_EQ(utf8(buffer.data()), c.expected) << c.name;
+    }
+}
+
+TEST(XmlStream, AttributeAfterTheTagClosedIsRefused)
+{
+    std::array<wchar, 64> buffer{};
+    ui::event::xml_output out(buffer.data(), buffer.size());
+    out.open_element("a");
+    out << "text";
+    try {
+        out.attribute("late", "1");
+        FAIL() << "attribute accepted after content";
+    } catch (const io::error& e) {
+        EXPECT_STREQ(e.what(), "unexpected attribute");
+    }
+}
+
+TEST(TextFormat, DecimalsAndAddresses)
+{
+    struct Case {
+        void (*write)(ui::event::text_output&);
+        const char* expected;
+    };
+    const Case cases[] = {
+        {[](auto& out) { out << decimal(0); }, "0"},
+        {[](auto& out) { out << decimal(-1); }, "-1"},
+        {[](auto& out) { out << decimal(INT32_MIN); }, "-2147483648"},
+        {[](auto& out) { out << decimal(UINT32_MAX); }, "4294967295"},
+        {[](auto& out) { out << decimal(UINT64_MAX); }, "18446744073709551615"},
+        {[](auto& out) { out << dotted_ipv4{167837696}; }, "10.1.0.0"},
+        {[](auto& out) { out << dotted_ipv4{0xFFFF0000}; }, "255.255.0.0"},
+        {[](auto& out) { out << dotted_ipv4{0}; }, "0.0.0.0"},
+    };
+    for (const Case& c : cases) {
+        std::array<wchar, 32> buffer{};
+        ui::event::text_output out(buffer.data(), buffer.size());
+        c.write(out);
+        EXPECT_EQ(utf8(buffer.data()), c.expected);
+    }
+}
+
+} // namespace
