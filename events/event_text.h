@@ -1,0 +1,39 @@
+// Shapes that many event texts share, written once.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "core/output_stream.h"
+#include "core/text_format.h"
+#include "devices/device_types.h"
+
+// A unit named by its device type and address: "fcn1l-10.0.0.1", or
+// "(invalid)-10.0.0.1" for a type the catalogue does not know.
+struct designation {
+    std::uint8_t type;
+    std::uint32_t address;
+};
+
+template <text_sink Out>
+Out& operator<<(Out& out, designation unit)
+{
+    return out << device_type_name(unit.type) << "-" << dotted_ipv4{unit.address};
+}
+
+// `separator` and `text`, only when there is text: the optional tail of a
+// sentence such as "...sent to network: <result>".
+template <text_sink Out>
+void write_if_any(Out& out, std::string_view separator, wstring_view text)
+{
+    if (!text.empty())
+        out << separator << text;
+}
+
+// The quoted result line of the plain-text XML forms:
+// <result>"text"</result> and a line break, with the given indentation.
+template <text_sink Out>
+void write_result_element(Out& out, wstring_view text, std::string_view indent = "")
+{
+    out << indent << "<result>\"" << text << "\"</result>\n";
+}

@@ -1,0 +1,48 @@
+// Sample event payloads with their expected renderings, as kept in
+// samples/*.samples (the format is described in docs/samples.md).
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "core/win_types.h"
+
+namespace samples {
+
+// What one renderer is expected to do with the payload.
+struct expectation {
+    HRESULT result = S_OK;
+    std::u16string output;                 // the buffer afterwards
+    std::optional<std::uint32_t> colour;   // text renderers, on success
+    std::optional<std::string> error;      // the error object's description
+};
+
+struct sample {
+    std::string name;
+    std::string file;   // where it came from, for messages
+    int line = 0;
+    GUID event{};
+    std::vector<std::uint8_t> payload;
+    std::optional<expectation> text;
+    std::optional<expectation> xml;
+};
+
+class format_error : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+std::vector<sample> parse(const std::string& content, const std::string& file);
+std::vector<sample> load(const std::filesystem::path& path);
+// Every *.samples file of a folder, in name order.
+std::vector<sample> load_folder(const std::filesystem::path& folder);
+
+// The quoted form that the files use for a text: C escapes for control
+// characters, quotes and backslashes, \uXXXX beyond ASCII.
+std::string quote(const std::u16string& text);
+
+} // namespace samples
