@@ -1,5 +1,6 @@
-// Number shapes shared by every renderer: decimal integers and dotted IPv4
-// addresses, written straight into a stream without allocating.
+// Number shapes shared by every renderer: decimal integers, hexadecimal
+// bytes and dotted IPv4 addresses, written straight into a stream without
+// allocating.
 #pragma once
 
 #include <cstdint>
@@ -30,6 +31,11 @@ private:
     }
 };
 
+// A byte as two upper-case hexadecimal digits: 11 is "0B".
+struct hex_byte {
+    std::uint8_t value;
+};
+
 // An IPv4 address held as a number whose most significant byte is printed
 // first: 167837696 is 10.1.0.0.
 struct dotted_ipv4 {
@@ -49,6 +55,14 @@ Out& operator<<(Out& out, decimal d)
     if (d.negative)
         *--p = '-';
     return out << std::string_view(p, static_cast<std::size_t>(digits + sizeof digits - p));
+}
+
+template <text_sink Out>
+Out& operator<<(Out& out, hex_byte h)
+{
+    constexpr char digits[] = "0123456789ABCDEF";
+    const char text[2] = {digits[h.value >> 4], digits[h.value & 0xF]};
+    return out << std::string_view(text, 2);
 }
 
 template <text_sink Out>

@@ -1,0 +1,45 @@
+// The persistent form of a "kor:" device name: the kind as a little-endian
+// 32-bit word, then the fields of that kind, with no header and no version.
+//
+//   kind 0  6 bytes   the MAC address in the order it prints (byte 5 first)
+//   kind 1  8 bytes   deviceType, address
+//   kind 2  16 bytes  deviceType, address, subIndex, idValue
+//   kind 3  4 bytes   transponder
+//
+// Every field but the MAC is a little-endian 32-bit word.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "moniker/kor_name.h"
+
+// The most any name takes, promised to hosts that size their storage.
+inline constexpr std::size_t kor_name_stream_max = 24;
+
+// Where the bytes go and come from. A sink writes all or throws; a source
+// fills all or throws.
+class byte_sink {
+public:
+    virtual void write(const std::uint8_t* bytes, std::size_t count) = 0;
+
+protected:
+    ~byte_sink() = default;
+};
+
+class byte_source {
+public:
+    virtual void read(std::uint8_t* bytes, std::size_t count) = 0;
+
+protected:
+    ~byte_source() = default;
+};
+
+// Writes the name in one piece; not_expected, with nothing written, for a kind
+// that is not a form.
+void save_kor_name(const KorName& name, byte_sink& out);
+
+// Reads the kind into `name` first, then that kind's fields: not_expected
+// for a kind that is not a form. After a failure `name` is left part-read and
+// is of no further use.
+void load_kor_name(KorName& name, byte_source& in);
