@@ -138,6 +138,20 @@ TEST(Enumerator, FetchedCountIsOptional)
     EXPECT_STREQ(records[2].name, L"OSPREY Data Changed");
 }
 
+TEST(Enumerator, NullOutPointersAreRefused)
+{
+    EXPECT_EQ(korps_module::get().UI_EnumEVENTUI(nullptr), E_POINTER);
+    enumerator e;
+    ULONG fetched = 7;
+    EXPECT_EQ(e->Next(1, nullptr, &fetched), E_POINTER);
+    EXPECT_EQ(e->Next(0, nullptr, &fetched), S_OK);
+    EXPECT_EQ(fetched, 0u);
+    EXPECT_EQ(e->Clone(nullptr), E_POINTER);
+    EVENTUI record{};
+    EXPECT_EQ(e->Next(1, &record, nullptr), S_OK) << "a refused call does not move the cursor";
+    EXPECT_STREQ(record.name, L"FALCON Data Changed");
+}
+
 TEST(Enumerator, CloneStartsAtTheBeginning)
 {
     const std::vector<EVENTUI> table = read_all();
