@@ -4,6 +4,7 @@
 #include "core/enum_eventui.h"
 #include "core/event_types.h"
 #include "module/module_lock.h"
+#include "moniker/kor_moniker_factory.h"
 
 static_assert(std::is_same_v<::EventXmlRenderer, decltype(EVENTUI::xmlRenderer)>,
               "the core's renderer shape is the host's");
@@ -16,6 +17,17 @@ HRESULT __stdcall UI_EnumEVENTUI(IEnumEVENTUI** ppEnum)
 {
     const auto rows = event_types();
     return CEnumEVENTUI::Create(rows.data(), rows.data() + rows.size(), ppEnum);
+}
+
+// The class object of the moniker class; the module serves no other class.
+HRESULT __stdcall DllGetClassObject(REFCLSID clsid, REFIID iid, void** ppv)
+{
+    if (!ppv)
+        return E_POINTER;
+    *ppv = nullptr;
+    if (!IsEqualCLSID(clsid, CLSID_KorMoniker))
+        return CLASS_E_CLASSNOTAVAILABLE;
+    return CKorMoniker::CFactory::Instance().QueryInterface(iid, ppv);
 }
 
 HRESULT __stdcall DllCanUnloadNow()

@@ -1,0 +1,43 @@
+#include "moniker/stream_bytes.h"
+
+#include "core/errors.h"
+#include "core/platform.h"
+
+namespace {
+
+// The stream's failure, described by whatever error object it left on the
+// thread.
+[[noreturn]] void throw_stream_failure(HRESULT result)
+{
+    com::error_info* info = platform::take_error_info();
+    const com::error failure(result, info);
+    platform::release(info);
+    throw failure;
+}
+
+} // namespace
+
+stream_bytes::stream_bytes(IStream* stream) noexcept : stream_(stream)
+{
+    stream->AddRef();
+}
+
+void stream_bytes::write(const std::uint8_t* bytes, std::size_t count)
+{
+    ULONG written = 0;
+    const HRESULT result = stream_->Write(bytes, static_cast<ULONG>(count), &written);
+    if (FAILED(result))
+        throw_stream_failure(result);
+    if (written != count)
+        throw com::error(STG_E_MEDIUMFULL);
+}
+
+void stream_bytes::read(std::uint8_t* bytes, std::size_t count)
+{
+    ULONG got = 0;
+    const HRESULT result = stream_->Read(bytes, static_cast<ULONG>(count), &got);
+    if (FAILED(result))
+        throw_stream_failure(result);
+    if (got != count)
+        throw com::error(STG_E_INCOMPLETE);
+}
