@@ -16,6 +16,7 @@ korps_module::korps_module() : module_(LoadLibraryW(L"korps.dll"))
         throw std::runtime_error("korps.dll did not load");
     UI_EnumEVENTUI = export_named<UI_EnumEVENTUI_t>("UI_EnumEVENTUI");
     DllCanUnloadNow = export_named<HRESULT(__stdcall*)()>("DllCanUnloadNow");
+    DllGetClassObject = export_named<decltype(DllGetClassObject)>("DllGetClassObject");
 }
 
 std::string take_error_description()

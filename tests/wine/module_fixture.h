@@ -18,6 +18,7 @@ public:
 
     UI_EnumEVENTUI_t UI_EnumEVENTUI;
     HRESULT(__stdcall* DllCanUnloadNow)();
+    HRESULT(__stdcall* DllGetClassObject)(REFCLSID clsid, REFIID iid, void** ppv);
 
 private:
     korps_module();

@@ -1,0 +1,634 @@
+// The "kor:" moniker through the real module: its class object from
+// DllGetClassObject, the platform's streams, bind contexts and composites,
+// and a host's binder played by fakes.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <cwchar>
+#include <string>
+#include <vector>
+
+#include <objidl.h>
+
+#include "core/com_ptr.h"
+#include "korps/korps_interfaces.h"
+#include "tests/wine/com_fakes.h"
+#include "tests/wine/module_fixture.h"
+
+namespace {
+
+template <class Interface>
+com_ptr<Interface> query(IUnknown* object)
+{
+    com_ptr<Interface> result;
+    EXPECT_EQ(object->QueryInterface(__uuidof(Interface), result.put_void()), S_OK);
+    return result;
+}
+
+class Moniker : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)));
+        SetErrorInfo(0, nullptr);
+    }
+
+    void TearDown() override
+    {
+        EXPECT_EQ(korps_module::get().DllCanUnloadNow(), S_OK) << "an object of the test is still alive";
+        CoUninitialize();
+    }
+
+    template <class Interface>
+    static com_ptr<Interface> class_object()
+    {
+        com_ptr<Interface> factory;
+        EXPECT_EQ(korps_module::get().DllGetClassObject(CLSID_KorMoniker, __uuidof(Interface), factory.put_void()),
+                  S_OK);
+        return factory;
+    }
+
+    static com_ptr<IMoniker> parse(const wchar_t* text)
+    {
+        ULONG eaten = 0;
+        com_ptr<IMoniker> moniker;
+        EXPECT_EQ(class_object<IParseDisplayName>()->ParseDisplayName(nullptr, const_cast<LPOLESTR>(text), &eaten,
+                                                                      moniker.put()),
+                  S_OK)
+            << take_error_description();
+        return moniker;
+    }
+
+    static std::wstring display_name(IMoniker* moniker)
+    {
+        com_ptr<IBindCtx> context;
+        EXPECT_EQ(CreateBindCtx(0, context.put()), S_OK);
+        LPOLESTR text = nullptr;
+        EXPECT_EQ(moniker->GetDisplayName(context.get(), nullptr, &text), S_OK);
+        std::wstring result = text ? text : L"(none)";
+        CoTaskMemFree(text);
+        return result;
+    }
+
+    static std::vector<BYTE> saved(IMoniker* moniker)
+    {
+        com_ptr<IStream> stream;
+        EXPECT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, stream.put()), S_OK);
+        EXPECT_EQ(moniker->Save(stream.get(), TRUE), S_OK) << take_error_description();
+        return stream_bytes(stream.get());
+    }
+
+    static std::vector<BYTE> stream_bytes(IStream* stream)
+    {
+        STATSTG stat{};
+        stream->Stat(&stat, STATFLAG_NONAME);
+        std::vector<BYTE> bytes(static_cast<std::size_t>(stat.cbSize.QuadPart));
+        stream->Seek({}, STREAM_SEEK_SET, nullptr);
+        ULONG got = 0;
+        stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &got);
+        return bytes;
+    }
+
+    static com_ptr<IStream> stream_of(const std::vector<BYTE>& bytes)
+    {
+        com_ptr<IStream> stream;
+        EXPECT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, stream.put()), S_OK);
+        ULONG written = 0;
+        stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), &written);
+        stream->Seek({}, STREAM_SEEK_SET, nullptr);
+        return stream;
+    }
+};
+
+TEST_F(Moniker, ClassObjectComesFromTheModule)
+{
+    auto& module = korps_module::get();
+    com_ptr<IUnknown> identity = class_object<IUnknown>();
+    for (const IID* iid : {&IID_IClassFactory, &IID_IParseDisplayName, &IID_IClassFromStreamFactory,
+                           &IID_ICreateKorMoniker}) {
+        com_ptr<IUnknown> part;
+        ASSERT_EQ(module.DllGetClassObject(CLSID_KorMoniker, *iid, part.put_void()), S_OK);
+        EXPECT_EQ(query<IUnknown>(part.get()).get(), identity.get()) << "one object answers them all";
+    }
+    EXPECT_EQ(module.DllCanUnloadNow(), S_FALSE) << "a held class object keeps the module";
+
+    void* none = &none;
+    EXPECT_EQ(module.DllGetClassObject(IID_IKorMoniker, IID_IClassFactory, &none), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(none, nullptr);
+    EXPECT_EQ(module.DllGetClassObject(CLSID_KorMoniker, IID_IMoniker, &none), E_NOINTERFACE);
+    EXPECT_EQ(module.DllGetClassObject(CLSID_KorMoniker, IID_IClassFactory, nullptr), E_POINTER);
+
+    identity.reset();
+    EXPECT_EQ(module.DllCanUnloadNow(), S_OK);
+    com_ptr<IClassFactory> factory = class_object<IClassFactory>();
+    EXPECT_EQ(factory->LockServer(TRUE), S_OK);
+    factory.reset();
+    EXPECT_EQ(module.DllCanUnloadNow(), S_FALSE) << "LockServer keeps the module";
+    EXPECT_EQ(class_object<IClassFactory>()->LockServer(FALSE), S_OK);
+}
+
+TEST_F(Moniker, CreateInstance)
+{
+    com_ptr<IClassFactory> factory = class_object<IClassFactory>();
+    com_ptr<IMoniker> moniker;
+    ASSERT_EQ(factory->CreateInstance(nullptr, IID_IMoniker, moniker.put_void()), S_OK);
+    EXPECT_EQ(display_name(moniker.get()), L"kor:mac-000000-000000") << "a new moniker is a zeroed MAC name";
+
+    fake_object outer;
+    void* none = &none;
+    EXPECT_EQ(factory->CreateInstance(&outer, IID_IUnknown, &none), CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(none, nullptr);
+    EXPECT_EQ(factory->CreateInstance(nullptr, IID_IClassFactory, &none), E_NOINTERFACE);
+    EXPECT_EQ(factory->CreateInstance(nullptr, IID_IMoniker, nullptr), E_POINTER);
+    EXPECT_EQ(outer.refs, 1);
+}
+
+TEST_F(Moniker, ParseDisplayName)
+{
+    struct Case {
+        const wchar_t* text;
+        ULONG eaten;
+        const wchar_t* canonical;
+    };
+    const Case cases[] = {
+        {L"kor:mac-0006B0-1A2B3C", 21, L"kor:mac-0006B0-1A2B3C"},
+        {L"kor:FCN1L-10.0.0.1", 18, L"kor:fcn1l-10.0.0.1"},
+        {L"kor:fcn1l-010.000.000.001,+7,3", 30, L"kor:fcn1l-10.0.0.1,7,3"},
+        {L"kor:transponder-5xyz", 17, L"kor:transponder-5"},
+        {L"kor:none-1.2.3.4!item", 16, L"kor:none-1.2.3.4"},
+    };
+    com_ptr<IParseDisplayName> parser = class_object<IParseDisplayName>();
+    for (const Case& c : cases) {
+        ULONG eaten = 0;
+        com_ptr<IMoniker> moniker;
+        ASSERT_EQ(parser->ParseDisplayName(nullptr, const_cast<LPOLESTR>(c.text), &eaten, moniker.put()), S_OK);
+        EXPECT_EQ(eaten, c.eaten) << c.text;
+        EXPECT_EQ(display_name(moniker.get()), c.canonical);
+    }
+}
+
+TEST_F(Moniker, ParseFailuresLeaveAnErrorObject)
+{
+    struct Case {
+        const wchar_t* text;
+        HRESULT result;
+        const char* description;
+    };
+    const Case cases[] = {
+        {L"KOR:transponder-5", E_UNEXPECTED, ""},
+        {L"kor:xyz-1", DISP_E_EXCEPTION, "unrecognized moniker string"},
+        {L"kor:fcn1l-1.2.3", DISP_E_EXCEPTION, "Expected a char with a value of '.'."},
+        {L"kor:transponder-256", DISP_E_EXCEPTION, "integer overflow"},
+        {L"kor:", DISP_E_EXCEPTION, "Expected a identifier<wchar_t>."},
+        {L"kor:mac-AABBCC-DDEE", DISP_E_EXCEPTION, "Expected a integer<unsigned char, 16, 2, default_tag>."},
+    };
+    com_ptr<IParseDisplayName> parser = class_object<IParseDisplayName>();
+    for (const Case& c : cases) {
+        SetErrorInfo(0, nullptr);
+        ULONG eaten = 77;
+        IMoniker* moniker = reinterpret_cast<IMoniker*>(&eaten);
+        EXPECT_EQ(parser->ParseDisplayName(nullptr, const_cast<LPOLESTR>(c.text), &eaten, &moniker), c.result);
+        EXPECT_EQ(take_error_description(), c.description) << c.text;
+        EXPECT_EQ(eaten, 77u) << c.text;
+        EXPECT_EQ(moniker, nullptr) << c.text;
+    }
+    ULONG eaten = 0;
+    IMoniker* moniker = nullptr;
+    EXPECT_EQ(parser->ParseDisplayName(nullptr, nullptr, &eaten, &moniker), E_POINTER);
+    EXPECT_EQ(parser->ParseDisplayName(nullptr, const_cast<LPOLESTR>(L"kor:gull-1.2.3.4"), nullptr, &moniker),
+              E_POINTER);
+}
+
+TEST_F(Moniker, AnswersItsInterfaces)
+{
+    com_ptr<IMoniker> moniker = parse(L"kor:transponder-3");
+    const com_ptr<IUnknown> identity = query<IUnknown>(moniker.get());
+    EXPECT_EQ(query<IPersist>(moniker.get()).get(), static_cast<IPersist*>(moniker.get()))
+        << "IPersist is served by the IMoniker part";
+    EXPECT_EQ(query<IPersistStream>(moniker.get()).get(), static_cast<IPersistStream*>(moniker.get()));
+    EXPECT_EQ(query<IUnknown>(query<IKorMoniker>(moniker.get()).get()).get(), identity.get());
+    void* none = &none;
+    EXPECT_EQ(moniker->QueryInterface(IID_IClassFactory, &none), E_NOINTERFACE);
+    EXPECT_EQ(none, nullptr);
+
+    CLSID clsid{};
+    EXPECT_EQ(moniker->GetClassID(&clsid), S_OK);
+    EXPECT_TRUE(IsEqualCLSID(clsid, CLSID_KorMoniker));
+    EXPECT_EQ(moniker->GetClassID(nullptr), E_POINTER);
+    EXPECT_EQ(moniker->IsDirty(), S_FALSE);
+    ULARGE_INTEGER size{};
+    EXPECT_EQ(moniker->GetSizeMax(&size), S_OK);
+    EXPECT_EQ(size.QuadPart, 24u);
+    DWORD mksys = 1234;
+    EXPECT_EQ(moniker->IsSystemMoniker(&mksys), S_FALSE);
+    EXPECT_EQ(mksys, 1234u);
+
+    IMoniker* out = nullptr;
+    IEnumMoniker* enumerator = nullptr;
+    FILETIME time{};
+    ULONG eaten = 0;
+    void* object = nullptr;
+    const HRESULT not_implemented[] = {
+        moniker->BindToStorage(nullptr, nullptr, IID_IStream, &object),
+        moniker->Reduce(nullptr, MKRREDUCE_ALL, nullptr, &out),
+        moniker->Enum(TRUE, &enumerator),
+        moniker->IsRunning(nullptr, nullptr, nullptr),
+        moniker->GetTimeOfLastChange(nullptr, nullptr, &time),
+        moniker->Inverse(&out),
+        moniker->CommonPrefixWith(moniker.get(), &out),
+        moniker->RelativePathTo(moniker.get(), &out),
+        moniker->ParseDisplayName(nullptr, nullptr, const_cast<LPOLESTR>(L"!x"), &eaten, &out),
+    };
+    for (HRESULT result : not_implemented)
+        EXPECT_EQ(result, E_NOTIMPL);
+}
+
+TEST_F(Moniker, GettersOfEachKind)
+{
+    struct Case {
+        const wchar_t* text;
+        ULONG kind;
+        HRESULT mac, device, extension, transponder;
+    };
+    const HRESULT ok = S_OK, no = E_UNEXPECTED;
+    const Case cases[] = {
+        {L"kor:mac-0006B0-1A2B3C", 0, ok, no, no, no},
+        {L"kor:fcn1l-10.0.0.1", 1, no, ok, no, no},
+        {L"kor:fcn1l-10.0.0.1,7,3", 2, no, ok, ok, no},
+        {L"kor:transponder-12", 3, no, no, no, ok},
+    };
+    for (const Case& c : cases) {
+        const com_ptr<IKorMoniker> moniker = query<IKorMoniker>(parse(c.text).get());
+        ULONG kind = 99, a = 0, b = 0;
+        BYTE mac[6] = {};
+        EXPECT_EQ(moniker->GetKind(&kind), S_OK);
+        EXPECT_EQ(kind, c.kind) << c.text;
+        EXPECT_EQ(moniker->GetMacAddress(mac), c.mac) << c.text;
+        EXPECT_EQ(moniker->GetDeviceAddress(&a, &b), c.device) << c.text;
+        EXPECT_EQ(moniker->GetExtension(&a, &b), c.extension) << c.text;
+        EXPECT_EQ(moniker->GetTransponder(&a), c.transponder) << c.text;
+        EXPECT_EQ(moniker->GetKind(nullptr), E_POINTER);
+        EXPECT_EQ(moniker->GetDeviceAddress(&a, nullptr), E_POINTER);
+        EXPECT_EQ(moniker->GetExtension(nullptr, &b), E_POINTER);
+    }
+
+    const com_ptr<IKorMoniker> mac = query<IKorMoniker>(parse(L"kor:mac-0006B0-1A2B3C").get());
+    BYTE bytes[6] = {};
+    ASSERT_EQ(mac->GetMacAddress(bytes), S_OK);
+    const BYTE stored[6] = {0x3C, 0x2B, 0x1A, 0xB0, 0x06, 0x00};
+    EXPECT_EQ(std::memcmp(bytes, stored, 6), 0) << "byte 0 is the last pair printed";
+
+    const com_ptr<IKorMoniker> extended = query<IKorMoniker>(parse(L"kor:fcn1l-10.0.0.1,7,3").get());
+    ULONG type = 0, address = 0, subIndex = 0, idValue = 0;
+    ASSERT_EQ(extended->GetDeviceAddress(&type, &address), S_OK);
+    ASSERT_EQ(extended->GetExtension(&subIndex, &idValue), S_OK);
+    EXPECT_EQ(type, 52u);
+    EXPECT_EQ(address, 0x0A000001u);
+    EXPECT_EQ(subIndex, 3u);
+    EXPECT_EQ(idValue, 7u);
+}
+
+TEST_F(Moniker, CreatedFromValues)
+{
+    com_ptr<ICreateKorMoniker> create = class_object<ICreateKorMoniker>();
+    com_ptr<IMoniker> moniker;
+    const BYTE mac[6] = {1, 2, 3, 4, 5, 6};
+    EXPECT_EQ(create->CreateMacMoniker(mac, moniker.put()), E_NOTIMPL);
+
+    ASSERT_EQ(create->CreateDeviceMoniker(0x100 + 128, 0xC0A80001, moniker.put()), S_OK);
+    EXPECT_EQ(display_name(moniker.get()), L"kor:gull-192.168.0.1");
+    ULONG type = 0, address = 0;
+    query<IKorMoniker>(moniker.get())->GetDeviceAddress(&type, &address);
+    EXPECT_EQ(type, 0x100u + 128) << "all 32 bits are kept";
+
+    ASSERT_EQ(create->CreateDeviceMonikerEx(62, 0x01020304, 4000000000u, 9, moniker.put()), S_OK);
+    EXPECT_EQ(display_name(moniker.get()), L"kor:(invalid)-1.2.3.4,9,4000000000");
+    ASSERT_EQ(create->CreateTransponderMoniker(300, moniker.put()), S_OK);
+    EXPECT_EQ(display_name(moniker.get()), L"kor:transponder-300");
+    EXPECT_EQ(create->CreateTransponderMoniker(1, nullptr), E_POINTER);
+}
+
+struct StreamCase {
+    const wchar_t* text;
+    std::vector<BYTE> bytes;
+};
+
+const StreamCase stream_cases[] = {
+    {L"kor:mac-0006B0-1A2B3C", {0, 0, 0, 0, 0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C}},
+    {L"kor:fcn1l-10.0.0.1", {1, 0, 0, 0, 52, 0, 0, 0, 1, 0, 0, 10}},
+    {L"kor:fcn1l-10.0.0.1,7,3", {2, 0, 0, 0, 52, 0, 0, 0, 1, 0, 0, 10, 3, 0, 0, 0, 7, 0, 0, 0}},
+    {L"kor:transponder-12", {3, 0, 0, 0, 12, 0, 0, 0}},
+};
+
+TEST_F(Moniker, SavesAndLoadsThroughStreams)
+{
+    com_ptr<IClassFromStreamFactory> factory = class_object<IClassFromStreamFactory>();
+    for (const StreamCase& c : stream_cases) {
+        EXPECT_EQ(saved(parse(c.text).get()), c.bytes) << c.text;
+
+        com_ptr<IStream> stream = stream_of(c.bytes);
+        com_ptr<IMoniker> loaded;
+        ASSERT_EQ(factory->CreateFromStream(stream.get(), IID_IMoniker, loaded.put_void()), S_OK) << c.text;
+        EXPECT_EQ(display_name(loaded.get()), c.text);
+
+        // Every shorter stream is incomplete, and the moniker is discarded.
+        for (std::size_t size = 0; size < c.bytes.size(); ++size) {
+            com_ptr<IStream> cut = stream_of({c.bytes.begin(), c.bytes.begin() + static_cast<std::ptrdiff_t>(size)});
+            void* none = &none;
+            EXPECT_EQ(factory->CreateFromStream(cut.get(), IID_IMoniker, &none), STG_E_INCOMPLETE)
+                << c.text << " cut to " << size;
+            EXPECT_EQ(none, nullptr);
+        }
+    }
+    void* none = nullptr;
+    com_ptr<IStream> stream = stream_of(stream_cases[0].bytes);
+    EXPECT_EQ(factory->CreateFromStream(stream.get(), IID_IClassFactory, &none), E_NOINTERFACE);
+    EXPECT_EQ(factory->CreateFromStream(nullptr, IID_IMoniker, &none), E_POINTER);
+}
+
+TEST_F(Moniker, UnknownKindInAStream)
+{
+    com_ptr<IStream> stream = stream_of({4, 0, 0, 0, 1, 2, 3, 4});
+    void* none = &none;
+    EXPECT_EQ(class_object<IClassFromStreamFactory>()->CreateFromStream(stream.get(), IID_IMoniker, &none),
+              E_UNEXPECTED);
+    EXPECT_EQ(none, nullptr);
+
+    // A moniker that loaded an unknown kind itself refuses everything that
+    // depends on the kind.
+    com_ptr<IMoniker> moniker = parse(L"kor:transponder-1");
+    stream = stream_of({0xFF, 0xFF, 0xFF, 0xFF});
+    EXPECT_EQ(moniker->Load(stream.get()), E_UNEXPECTED);
+    LPOLESTR text = nullptr;
+    DWORD hash = 0;
+    EXPECT_EQ(moniker->GetDisplayName(nullptr, nullptr, &text), E_UNEXPECTED);
+    EXPECT_EQ(text, nullptr);
+    EXPECT_EQ(moniker->Hash(&hash), E_UNEXPECTED);
+    EXPECT_EQ(moniker->IsEqual(moniker.get()), E_UNEXPECTED);
+    com_ptr<IStream> out;
+    ASSERT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, out.put()), S_OK);
+    EXPECT_EQ(moniker->Save(out.get(), FALSE), E_UNEXPECTED);
+    EXPECT_TRUE(stream_bytes(out.get()).empty());
+
+    fake_binder binder;
+    fake_provider provider;
+    provider.binder = &binder;
+    com_ptr<IMoniker> left;
+    ASSERT_EQ(CreatePointerMoniker(static_cast<IServiceProvider*>(&provider), left.put()), S_OK);
+    void* object = nullptr;
+    EXPECT_EQ(moniker->BindToObject(nullptr, left.get(), IID_IUnknown, &object), E_UNEXPECTED);
+    EXPECT_EQ(binder.calls, "");
+    left.reset();
+    EXPECT_EQ(binder.refs, 1);
+    EXPECT_EQ(provider.refs, 1);
+}
+
+TEST_F(Moniker, StreamFailures)
+{
+    com_ptr<IMoniker> moniker = parse(L"kor:transponder-12");
+    fake_stream stream;
+
+    // The stream's own failure, with the error object it left on the thread.
+    const auto fail_with_description = [](HRESULT result, const wchar_t* description) {
+        ICreateErrorInfo* creator = nullptr;
+        CreateErrorInfo(&creator);
+        creator->SetDescription(const_cast<LPOLESTR>(description));
+        IErrorInfo* info = nullptr;
+        creator->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(&info));
+        SetErrorInfo(0, info);
+        info->Release();
+        creator->Release();
+        return result;
+    };
+    stream.read = [&](void*, ULONG, ULONG*) { return fail_with_description(STG_E_READFAULT, L"the disk went away"); };
+    EXPECT_EQ(moniker->Load(&stream), STG_E_READFAULT);
+    EXPECT_EQ(take_error_description(), "the disk went away");
+    stream.write = [&](const void*, ULONG, ULONG*) { return fail_with_description(STG_E_ACCESSDENIED, L"no write access"); };
+    EXPECT_EQ(moniker->Save(&stream, TRUE), STG_E_ACCESSDENIED);
+    EXPECT_EQ(take_error_description(), "no write access");
+
+    // Short transfers that the stream calls success.
+    stream.read = [](void*, ULONG cb, ULONG* got) {
+        *got = cb - 1;
+        return S_FALSE;
+    };
+    EXPECT_EQ(moniker->Load(&stream), STG_E_INCOMPLETE);
+    std::vector<BYTE> written;
+    stream.write = [&](const void* pv, ULONG cb, ULONG* done) {
+        written.assign(static_cast<const BYTE*>(pv), static_cast<const BYTE*>(pv) + cb);
+        *done = cb - 1;
+        return S_OK;
+    };
+    EXPECT_EQ(moniker->Save(&stream, TRUE), STG_E_MEDIUMFULL);
+    EXPECT_EQ(written, stream_cases[3].bytes) << "the whole name is offered in one write";
+    EXPECT_EQ(stream.refs, 1) << "the stream is held only during the call";
+    EXPECT_EQ(moniker->Load(nullptr), E_POINTER);
+}
+
+TEST_F(Moniker, IsEqualAndHash)
+{
+    struct Case {
+        const wchar_t* a;
+        const wchar_t* b;
+        HRESULT equal;
+    };
+    const Case cases[] = {
+        {L"kor:FCN1L-10.0.0.1", L"kor:fcn1l-010.0.0.1", S_OK},
+        {L"kor:fcn1l-10.0.0.1", L"kor:fcn1i-10.0.0.1", S_FALSE},
+        {L"kor:fcn1l-10.0.0.1", L"kor:fcn1l-10.0.0.1,0,0", S_FALSE},
+        {L"kor:fcn1l-10.0.0.1,7,3", L"kor:fcn1l-10.0.0.1,7,3", S_OK},
+        {L"kor:fcn1l-10.0.0.1,7,3", L"kor:fcn1l-10.0.0.1,7,4", S_FALSE},
+        {L"kor:mac-0006B0-1A2B3C", L"kor:mac-0006b0-1a2b3c", S_OK},
+        {L"kor:mac-0006B0-1A2B3C", L"kor:mac-0006B0-1A2B3D", S_FALSE},
+        {L"kor:transponder-12", L"kor:transponder-13", S_FALSE},
+    };
+    for (const Case& c : cases) {
+        com_ptr<IMoniker> a = parse(c.a), b = parse(c.b);
+        EXPECT_EQ(a->IsEqual(b.get()), c.equal) << c.a << " " << c.b;
+        EXPECT_EQ(b->IsEqual(a.get()), c.equal) << c.b << " " << c.a;
+    }
+
+    com_ptr<IMoniker> moniker = parse(L"kor:transponder-12");
+    com_ptr<IMoniker> item;
+    ASSERT_EQ(CreateItemMoniker(L"!", L"transponder-12", item.put()), S_OK);
+    EXPECT_EQ(moniker->IsEqual(item.get()), S_FALSE) << "a moniker of another class";
+    EXPECT_EQ(moniker->IsEqual(nullptr), E_POINTER);
+
+    const struct {
+        const wchar_t* text;
+        DWORD hash;
+    } hashes[] = {
+        {L"kor:mac-0006B0-1A2B3C", 0xB01A2B3C ^ 0x0006},
+        {L"kor:fcn1l-10.0.0.1", 0x0A000001 ^ 52},
+        {L"kor:fcn1l-10.0.0.1,7,3", (0x0A000001 & 52) ^ 7 ^ 3},
+        {L"kor:transponder-12", 12},
+    };
+    for (const auto& h : hashes) {
+        DWORD hash = 0;
+        EXPECT_EQ(parse(h.text)->Hash(&hash), S_OK);
+        EXPECT_EQ(hash, h.hash) << h.text;
+    }
+    EXPECT_EQ(moniker->Hash(nullptr), E_POINTER);
+}
+
+TEST_F(Moniker, BindsThroughTheBindContextsServiceProvider)
+{
+    const struct {
+        const wchar_t* text;
+        const char* call;
+    } cases[] = {
+        {L"kor:mac-0006B0-1A2B3C", "BindMac 3C 2B 1A B0 06 00 IDispatch;"},
+        {L"kor:fcn1l-10.0.0.1", "BindDevice 52 0A000001 IDispatch;"},
+        {L"kor:fcn1l-10.0.0.1,7,3", "BindDeviceEx 52 0A000001 3 7 IDispatch;"},
+        {L"kor:transponder-12", "BindTransponder 12 IDispatch;"},
+    };
+    for (const auto& c : cases) {
+        fake_binder binder;
+        binder.result = static_cast<HRESULT>(0x80041234);
+        fake_provider provider;
+        provider.binder = &binder;
+        {
+            com_ptr<IBindCtx> context;
+            ASSERT_EQ(CreateBindCtx(0, context.put()), S_OK);
+            ASSERT_EQ(context->RegisterObjectParam(const_cast<LPOLESTR>(L"ServiceProvider"),
+                                                   static_cast<IServiceProvider*>(&provider)),
+                      S_OK);
+            void* object = nullptr;
+            EXPECT_EQ(parse(c.text)->BindToObject(context.get(), nullptr, IID_IDispatch, &object), binder.result)
+                << "the binder's answer, unchanged";
+            EXPECT_EQ(binder.calls, c.call);
+            EXPECT_EQ(binder.lastOut, &object) << "the caller's out pointer goes to the binder";
+            EXPECT_EQ(provider.calls, "SID_KorBinder IKorBinder;");
+        }
+        EXPECT_EQ(binder.refs, 1) << c.text;
+        EXPECT_EQ(provider.refs, 1) << c.text;
+    }
+}
+
+TEST_F(Moniker, BindsThroughTheMonikerToItsLeft)
+{
+    fake_binder binder;
+    fake_provider provider, unused;
+    provider.binder = unused.binder = &binder;
+    {
+        com_ptr<IBindCtx> context;
+        ASSERT_EQ(CreateBindCtx(0, context.put()), S_OK);
+        context->RegisterObjectParam(const_cast<LPOLESTR>(L"ServiceProvider"), static_cast<IServiceProvider*>(&unused));
+        com_ptr<IMoniker> left;
+        ASSERT_EQ(CreatePointerMoniker(static_cast<IServiceProvider*>(&provider), left.put()), S_OK);
+        com_ptr<IMoniker> moniker = parse(L"kor:transponder-7");
+        void* object = nullptr;
+        EXPECT_EQ(moniker->BindToObject(context.get(), left.get(), IID_IUnknown, &object), S_OK);
+        EXPECT_EQ(binder.calls, "BindTransponder 7 IUnknown;");
+        EXPECT_EQ(provider.calls, "SID_KorBinder IKorBinder;");
+        EXPECT_EQ(unused.calls, "") << "the left moniker's provider wins over the bind context's";
+
+    }
+    EXPECT_EQ(binder.refs, 1);
+    EXPECT_EQ(provider.refs, 1);
+    EXPECT_EQ(unused.refs, 1);
+}
+
+TEST_F(Moniker, BindFailures)
+{
+    com_ptr<IMoniker> moniker = parse(L"kor:transponder-7");
+    void* object = nullptr;
+    EXPECT_EQ(moniker->BindToObject(nullptr, nullptr, IID_IUnknown, &object), E_UNEXPECTED) << "no bind context";
+
+    com_ptr<IBindCtx> context;
+    ASSERT_EQ(CreateBindCtx(0, context.put()), S_OK);
+    com_ptr<IUnknown> missing;
+    const HRESULT not_registered = context->GetObjectParam(const_cast<LPOLESTR>(L"ServiceProvider"), missing.put());
+    ASSERT_TRUE(FAILED(not_registered));
+    EXPECT_EQ(moniker->BindToObject(context.get(), nullptr, IID_IUnknown, &object), not_registered)
+        << "the bind context's own failure";
+
+    fake_object not_a_provider;
+    fake_binder binder;
+    fake_provider without_binder;
+    {
+        context->RegisterObjectParam(const_cast<LPOLESTR>(L"ServiceProvider"), &not_a_provider);
+        EXPECT_EQ(moniker->BindToObject(context.get(), nullptr, IID_IUnknown, &object), E_NOINTERFACE);
+
+        context->RegisterObjectParam(const_cast<LPOLESTR>(L"ServiceProvider"),
+                                     static_cast<IServiceProvider*>(&without_binder));
+        EXPECT_EQ(moniker->BindToObject(context.get(), nullptr, IID_IUnknown, &object), E_NOINTERFACE)
+            << "QueryService's failure";
+
+        com_ptr<IMoniker> left;
+        ASSERT_EQ(CreatePointerMoniker(&not_a_provider, left.put()), S_OK);
+        EXPECT_EQ(moniker->BindToObject(context.get(), left.get(), IID_IUnknown, &object), E_NOINTERFACE)
+            << "the left moniker's failure";
+        context->RevokeObjectParam(const_cast<LPOLESTR>(L"ServiceProvider"));
+    }
+    EXPECT_EQ(binder.calls, "");
+    EXPECT_EQ(not_a_provider.refs, 1);
+    EXPECT_EQ(without_binder.refs, 1);
+}
+
+TEST_F(Moniker, ComposeWith)
+{
+    com_ptr<IMoniker> moniker = parse(L"kor:transponder-7");
+    com_ptr<IMoniker> item;
+    ASSERT_EQ(CreateItemMoniker(L"!", L"port1", item.put()), S_OK);
+
+    IMoniker* composite = moniker.get();
+    EXPECT_EQ(moniker->ComposeWith(item.get(), TRUE, &composite), MK_E_NEEDGENERIC);
+    EXPECT_EQ(composite, nullptr);
+
+    com_ptr<IMoniker> generic;
+    ASSERT_EQ(moniker->ComposeWith(item.get(), FALSE, generic.put()), S_OK);
+    EXPECT_EQ(display_name(generic.get()), L"kor:transponder-7!port1");
+    DWORD mksys = 0;
+    EXPECT_EQ(generic->IsSystemMoniker(&mksys), S_OK);
+    EXPECT_EQ(mksys, static_cast<DWORD>(MKSYS_GENERICCOMPOSITE));
+}
+
+} // namespace
+
+// The way clients reach the moniker: the platform's display-name parsing
+// finds the class through the "kor" scheme's registration.
+class registered_scheme {
+public:
+    registered_scheme()
+    {
+        korps_module::get();   // loaded, so that its path can be registered
+        wchar_t path[MAX_PATH];
+        GetModuleFileNameW(GetModuleHandleW(L"korps.dll"), path, MAX_PATH);
+        set(L"kor\\CLSID", nullptr, clsid);
+        set(clsid_key_ + L"\\InprocServer32", nullptr, path);
+        set(clsid_key_ + L"\\InprocServer32", L"ThreadingModel", L"Both");
+    }
+    ~registered_scheme()
+    {
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, L"kor");
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, clsid_key_.c_str());
+    }
+
+private:
+    static constexpr const wchar_t* clsid = L"{DE8AB314-CDD2-4600-8139-6285F46937AC}";
+
+    static void set(const std::wstring& key, const wchar_t* name, const wchar_t* value)
+    {
+        HKEY handle = nullptr;
+        ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &handle, nullptr),
+                  ERROR_SUCCESS);
+        RegSetValueExW(handle, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(value),
+                       static_cast<DWORD>((std::wcslen(value) + 1) * sizeof(wchar_t)));
+        RegCloseKey(handle);
+    }
+
+    std::wstring clsid_key_ = std::wstring(L"CLSID\\") + clsid;
+};
+
+TEST_F(Moniker, PlatformParsesThroughTheScheme)
+{
+    registered_scheme scheme;
+    com_ptr<IBindCtx> context;
+    ASSERT_EQ(CreateBindCtx(0, context.put()), S_OK);
+    ULONG eaten = 0;
+    com_ptr<IMoniker> moniker;
+    ASSERT_EQ(MkParseDisplayName(context.get(), L"kor:FCN1L-10.0.0.1", &eaten, moniker.put()), S_OK);
+    EXPECT_EQ(eaten, 18u);
+    EXPECT_EQ(display_name(moniker.get()), L"kor:fcn1l-10.0.0.1");
+}
