@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/event_output.h"
 #include "core/output_stream.h"
 #include "core/text_format.h"
 #include "devices/device_types.h"
@@ -36,4 +37,13 @@ template <text_sink Out>
 void write_result_element(Out& out, wstring_view text, std::string_view indent = "")
 {
     out << indent << "<result>\"" << text << "\"</result>\n";
+}
+
+// An element on a line of its own on the XML stream: <name>value</name> and
+// a line break.
+template <class Value>
+void write_element_line(ui::event::xml_output& out, std::string_view name, const Value& value)
+{
+    out.element(name, value);
+    out << "\n";
 }

@@ -8,6 +8,7 @@
 
 #include "core/event_types.h"
 #include "core/guid.h"
+#include "events/alarm_type_map.h"
 #include "tests/native/test_text.h"
 #include "tools/sample_file.h"
 
@@ -49,6 +50,19 @@ outcome render(const event_type_row& row, bool text, const std::vector<std::uint
     }
     return o;
 }
+
+// The alarm type that samples may name, registered as a host would before
+// any event is rendered.
+class registered_alarm_types : public testing::Environment {
+public:
+    void SetUp() override
+    {
+        static const alarm_type_record link[] = {{make_guid("00000000-0000-0000-0000-000000000001"), "Link"}};
+        RegisterAlarmTypeMap(1, link);
+    }
+};
+
+testing::Environment* const alarm_types_environment = testing::AddGlobalTestEnvironment(new registered_alarm_types);
 
 class Samples : public testing::TestWithParam<samples::sample> {};
 
