@@ -6,12 +6,50 @@
 // units' front panels print them.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 struct alarm_bit {
     std::int32_t bit;   // counted from the group's first byte, bit 0 lowest
     const char* name;
 };
+
+// Later units reuse the alarm groups of earlier ones, with a few bits more or
+// fewer; their tables are written that way, so a shared name is fixed once.
+
+// `table` and then `more`.
+template <std::size_t N, std::size_t M>
+consteval std::array<alarm_bit, N + M> followed_by(const alarm_bit (&table)[N], const alarm_bit (&more)[M])
+{
+    std::array<alarm_bit, N + M> rows{};
+    for (std::size_t i = 0; i < N; ++i)
+        rows[i] = table[i];
+    for (std::size_t i = 0; i < M; ++i)
+        rows[N + i] = more[i];
+    return rows;
+}
+
+// `table` without the rows of `bits`, each of which it must have.
+template <std::size_t N, std::size_t K>
+consteval std::array<alarm_bit, N - K> without(const alarm_bit (&table)[N], const std::int32_t (&bits)[K])
+{
+    std::array<alarm_bit, N - K> rows{};
+    std::size_t kept = 0;
+    for (const alarm_bit& row : table) {
+        bool dropped = false;
+        for (const std::int32_t bit : bits)
+            dropped = dropped || row.bit == bit;
+        if (!dropped) {
+            if (kept == rows.size())
+                throw "a bit to drop is not in the table";
+            rows[kept++] = row;
+        }
+    }
+    if (kept != rows.size())
+        throw "a bit to drop stands in the table twice";
+    return rows;
+}
 
 namespace alarm_bits {
 
@@ -120,34 +158,14 @@ inline constexpr alarm_bit fpga_receive[] = {
     {14, "Power > 20dBm"},
 };
 
-// The packet modem ('X').
-inline constexpr alarm_bit packet_unit[] = {
-    {0, "+5V"},
-    {1, "+12V"},
-    {2, "-5V"},
-    {4, "-12V"},
-    {5, "Tx Synthesizer"},
-    {6, "Rx 1st LO synth"},
-    {7, "Rx 2nd LO synth"},
-    {8, "Ext Ref PLL"},
-    {9, "EEPROM Checksum"},
-};
+// The packet modem ('X'): the modem's alarms, less the +23V rail, plus two
+// transmit alarms.
+inline constexpr auto packet_unit = without(modem_unit, {3});
 
-inline constexpr alarm_bit packet_transmit[] = {
-    {0, "Clock"},
-    {1, "FIFO Slip"},
-    {2, "AIS"},
-    {3, "AUPC Upper Limit"},
-    {4, "External Reference Lost"},
-    {5, "BUC Current Window"},
-    {6, "BUC Voltage Threshold"},
-    {7, "BUC Checksum"},
-    {8, "BUC PLL lock"},
-    {9, "BUC Temperature"},
-    {10, "G.703 Bipolar Violation"},
+inline constexpr auto packet_transmit = followed_by(modem_transmit, {
     {11, "G.703 Signal Loss"},
     {12, "Tx PaP Ethernet"},
-};
+});
 
 inline constexpr alarm_bit packet_receive[] = {
     {0, "Demod Lock"},
@@ -161,25 +179,12 @@ inline constexpr alarm_bit packet_receive[] = {
     {9, "LNB Voltage"},
 };
 
-// The receive-only chassis ('^').
-inline constexpr alarm_bit receiver_unit[] = {
-    {0, "+5V"},
-    {1, "+12V"},
-    {2, "-5V"},
-    {4, "-12V"},
-    {6, "Rx 1st LO synth"},
-    {7, "Rx 2nd LO synth"},
-};
+// The receive-only chassis ('^'): no transmitter, +23V rail, external
+// reference or EEPROM alarm.
+inline constexpr auto receiver_unit = without(modem_unit, {3, 5, 8, 9});
 
-inline constexpr alarm_bit receiver_demodulator[] = {
-    {0, "Demod Lock"},
-    {1, "AGC"},
-    {4, "Buffer Underflow"},
-    {5, "Buffer Overflow"},
-    {6, "EbNo"},
-    {7, "AIS"},
-    {8, "LNB Current"},
-    {9, "LNB Voltage"},
-};
+// Each of its demodulators reports the packet modem's receive alarms, less
+// the Xlink framing.
+inline constexpr auto receiver_demodulator = without(packet_receive, {3});
 
 } // namespace alarm_bits
