@@ -25,13 +25,16 @@ inline void PrintTo(const sample& s, std::ostream* os)
 
 namespace sample_check {
 
-// The calling thread's error object description, taken from the thread.
-std::string take_error_description();
-
 struct renderers {
     EventXmlRenderer xml = nullptr;
     EventTextRenderer text = nullptr;
 };
+
+// Each test program supplies these two: where its renderers come from, and
+// how it reads the thread's error object (its description, taken from the
+// thread; empty when there is none).
+renderers find_renderers(const GUID& id);
+std::string take_error_description();
 
 struct outcome {
     HRESULT result;
