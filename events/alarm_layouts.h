@@ -40,8 +40,9 @@ inline constexpr alarm_group fpga[] = {{fpga_unit, 0}, {fpga_transmit, 4}, {fpga
 inline constexpr alarm_group packet[] = {{packet_unit, 0}, {packet_transmit, 2}, {packet_receive, 4}};
 inline constexpr alarm_group receiver[] = {{receiver_unit, 0}};
 
-// The receive-only chassis ('^') has never been described in the XML form;
-// consumers of the XML read its alarms from the text, and it stays that way.
+// The XML form of the receive-only chassis ('^') lists no alarm bits, only
+// the state change: consumers of the XML read that unit's alarms from the
+// text, and the form stays as they know it.
 inline constexpr alarm_layout rows[] = {
     {0x34, modem, {}, 0, true},
     {0x35, modem, {}, 0, true},
