@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/event_output.h"
 #include "core/output_stream.h"
+#include "core/payload_cursor.h"
 #include "core/text_format.h"
 #include "devices/device_types.h"
 
@@ -19,6 +21,19 @@ template <text_sink Out>
 Out& operator<<(Out& out, designation unit)
 {
     return out << device_type_name(unit.type) << "-" << dotted_ipv4{unit.address};
+}
+
+// A designation as payloads carry it: the type byte, then the address.
+inline designation read_designation(payload_cursor& in)
+{
+    const std::uint8_t type = in.read_u8();
+    return {type, in.read_u32()};
+}
+
+// How the XML forms spell a flag.
+constexpr std::string_view true_false(bool flag) noexcept
+{
+    return flag ? "True" : "False";
 }
 
 // `separator` and `text`, only when there is text: the optional tail of a
@@ -36,4 +51,21 @@ template <text_sink Out>
 void write_result_element(Out& out, wstring_view text, std::string_view indent = "")
 {
     out << indent << "<result>\"" << text << "\"</result>\n";
+}
+
+// The result line only when there is a result text to show.
+template <text_sink Out>
+void write_result_element_if_any(Out& out, wstring_view text, std::string_view indent = "")
+{
+    if (!text.empty())
+        write_result_element(out, text, indent);
+}
+
+// An element on a line of its own on the XML stream: <name>value</name> and
+// a line break.
+template <class Value>
+void write_element_line(ui::event::xml_output& out, std::string_view name, const Value& value)
+{
+    out.element(name, value);
+    out << "\n";
 }

@@ -25,13 +25,18 @@ inline void PrintTo(const sample& s, std::ostream* os)
 
 namespace sample_check {
 
-// The calling thread's error object description, taken from the thread.
-std::string take_error_description();
-
 struct renderers {
     EventXmlRenderer xml = nullptr;
     EventTextRenderer text = nullptr;
 };
+
+// Each test program supplies these three: where its renderers come from, how
+// it reads the thread's error object (its description, taken from the
+// thread; empty when there is none), and how it registers the samples' alarm
+// types with the module.
+renderers find_renderers(const GUID& id);
+std::string take_error_description();
+void register_alarm_types();
 
 struct outcome {
     HRESULT result;

@@ -1,38 +1,10 @@
-// Every sample payload of samples/ through the renderers of the event table.
+// The sample file format itself: malformed records are refused with their
+// place, and quoting survives a round trip.
 #include <gtest/gtest.h>
 
-
-#include "core/event_types.h"
-#include "core/guid.h"
-#include "tests/common/sample_check.h"
-#include "tests/native/test_text.h"
-
-namespace sample_check {
-std::string take_error_description()
-{
-    return ::take_error_description();
-}
-} // namespace sample_check
+#include "tools/sample_file.h"
 
 namespace {
-
-sample_check::renderers find_renderers(const GUID& id)
-{
-    for (const event_type_row& row : event_types())
-        if (same_guid(*row.eventType, id))
-            return {row.xmlRenderer, row.textRenderer};
-    return {};
-}
-
-class Samples : public testing::TestWithParam<samples::sample> {};
-
-TEST_P(Samples, RenderExactlyAndWithinEveryBuffer)
-{
-    sample_check::check(find_renderers(GetParam().event), GetParam());
-}
-
-INSTANTIATE_TEST_SUITE_P(All, Samples, testing::ValuesIn(samples::load_folder(KORPS_SAMPLES_DIR)),
-                         sample_check::test_name);
 
 TEST(SampleFile, RejectsMalformedRecords)
 {
