@@ -52,19 +52,12 @@ HRESULT CEnumEVENTUI::QueryInterface(REFIID riid, void** ppv)
 
 ULONG CEnumEVENTUI::AddRef()
 {
-    return refs_.fetch_add(1, std::memory_order_relaxed) + 1;
+    return refs_.add();
 }
 
 ULONG CEnumEVENTUI::Release()
 {
-    const ULONG count = refs_.fetch_sub(1, std::memory_order_acq_rel) - 1;
-    if (count == 0) {
-        // The module must not look unloadable while its code is still running
-        // the destructor.
-        module::lock_guard hold;
-        delete this;
-    }
-    return count;
+    return refs_.release([this] { delete this; });
 }
 
 HRESULT CEnumEVENTUI::Next(ULONG celt, EVENTUI* rgelt, ULONG* pceltFetched)

@@ -1,10 +1,10 @@
 // The enumerator over the event type table that UI_EnumEVENTUI hands out.
 #pragma once
 
-#include <atomic>
 
 #include "core/event_types.h"
 #include "include/korps/korps.h"
+#include "module/ref_count.h"
 
 class CEnumEVENTUI final : public IEnumEVENTUI {
 public:
@@ -24,7 +24,7 @@ private:
     CEnumEVENTUI() noexcept;
     ~CEnumEVENTUI();
 
-    std::atomic<ULONG> refs_{0};
+    module::ref_count refs_;
     // Kept for the enumerator's contract: its creation may fail and is
     // reported; no method enters it, since one enumerator serves one thread.
     CRITICAL_SECTION lock_;

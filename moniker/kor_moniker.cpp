@@ -40,25 +40,25 @@ HRESULT read_mac(IKorMoniker* other, KorName& name)
     return other->GetMacAddress(name.mac.data());
 }
 
+HRESULT read_pair(HRESULT (STDMETHODCALLTYPE IKorMoniker::*getter)(ULONG*, ULONG*), IKorMoniker* other,
+                  std::uint32_t& first, std::uint32_t& second)
+{
+    ULONG a = 0, b = 0;
+    const HRESULT result = (other->*getter)(&a, &b);
+    first = a;
+    second = b;
+    return result;
+}
+
 HRESULT read_device(IKorMoniker* other, KorName& name)
 {
-    ULONG type = 0, address = 0;
-    const HRESULT result = other->GetDeviceAddress(&type, &address);
-    name.deviceType = type;
-    name.address = address;
-    return result;
+    return read_pair(&IKorMoniker::GetDeviceAddress, other, name.deviceType, name.address);
 }
 
 HRESULT read_device_ex(IKorMoniker* other, KorName& name)
 {
     const HRESULT result = read_device(other, name);
-    if (FAILED(result))
-        return result;
-    ULONG subIndex = 0, idValue = 0;
-    const HRESULT extension = other->GetExtension(&subIndex, &idValue);
-    name.subIndex = subIndex;
-    name.idValue = idValue;
-    return extension;
+    return FAILED(result) ? result : read_pair(&IKorMoniker::GetExtension, other, name.subIndex, name.idValue);
 }
 
 HRESULT read_transponder(IKorMoniker* other, KorName& name)
@@ -120,19 +120,12 @@ HRESULT CKorMoniker::QueryInterface(REFIID riid, void** ppv)
 
 ULONG CKorMoniker::AddRef()
 {
-    return refs_.fetch_add(1, std::memory_order_relaxed) + 1;
+    return refs_.add();
 }
 
 ULONG CKorMoniker::Release()
 {
-    const ULONG count = refs_.fetch_sub(1, std::memory_order_acq_rel) - 1;
-    if (count == 0) {
-        // The module must not look unloadable while its code is still running
-        // the destructor.
-        module::lock_guard hold;
-        delete this;
-    }
-    return count;
+    return refs_.release([this] { delete this; });
 }
 
 HRESULT CKorMoniker::GetClassID(CLSID* pClassID)

@@ -2,13 +2,12 @@
 // hashed, and bound through the host's binder service.
 #pragma once
 
-#include <atomic>
-
 #include <objidl.h>
 #include <servprov.h>
 
 #include "core/com_ptr.h"
 #include "korps/korps_interfaces.h"
+#include "module/ref_count.h"
 #include "moniker/kor_name.h"
 
 class CKorMoniker final : public IMoniker, public IKorMoniker {
@@ -75,7 +74,7 @@ private:
     // object, or the bind context's "ServiceProvider" object.
     static HRESULT FindServiceProvider(IBindCtx* pbc, IMoniker* pmkToLeft, com_ptr<IServiceProvider>& provider);
 
-    std::atomic<ULONG> refs_{1};
+    module::ref_count refs_{1};
     // Written only while the moniker is being made, parsed or loaded, before
     // anybody else holds it; read-only afterwards.
     KorName name_;

@@ -15,6 +15,16 @@ namespace {
     throw failure;
 }
 
+// A transfer must succeed and move every byte; one that moved fewer fails
+// with `shortfall`.
+void check_transfer(HRESULT result, ULONG moved, std::size_t count, HRESULT shortfall)
+{
+    if (FAILED(result))
+        throw_stream_failure(result);
+    if (moved != count)
+        throw com::error(shortfall);
+}
+
 } // namespace
 
 stream_bytes::stream_bytes(IStream* stream) noexcept : stream_(stream)
@@ -26,18 +36,12 @@ void stream_bytes::write(const std::uint8_t* bytes, std::size_t count)
 {
     ULONG written = 0;
     const HRESULT result = stream_->Write(bytes, static_cast<ULONG>(count), &written);
-    if (FAILED(result))
-        throw_stream_failure(result);
-    if (written != count)
-        throw com::error(STG_E_MEDIUMFULL);
+    check_transfer(result, written, count, STG_E_MEDIUMFULL);
 }
 
 void stream_bytes::read(std::uint8_t* bytes, std::size_t count)
 {
     ULONG got = 0;
     const HRESULT result = stream_->Read(bytes, static_cast<ULONG>(count), &got);
-    if (FAILED(result))
-        throw_stream_failure(result);
-    if (got != count)
-        throw com::error(STG_E_INCOMPLETE);
+    check_transfer(result, got, count, STG_E_INCOMPLETE);
 }
