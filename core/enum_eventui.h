@@ -1,7 +1,6 @@
 // The enumerator over the event type table that UI_EnumEVENTUI hands out.
 #pragma once
 
-
 #include "core/event_types.h"
 #include "include/korps/korps.h"
 #include "module/ref_count.h"
