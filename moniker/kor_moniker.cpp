@@ -181,6 +181,8 @@ HRESULT CKorMoniker::FindServiceProvider(IBindCtx* pbc, IMoniker* pmkToLeft, com
     const HRESULT result = pbc->GetObjectParam(service_provider_key, object.put());
     if (FAILED(result))
         return result;
+    if (!object)
+        return E_UNEXPECTED;
     return object->QueryInterface(IID_IServiceProvider, provider.put_void());
 }
 
