@@ -1,149 +1,449 @@
 #include "events/config_events.h"
 
+#include <array>
+#include <string_view>
+
 #include "core/text_format.h"
+#include "devices/decimal_value.h"
+#include "devices/option_entry.h"
+#include "events/command_outcome.h"
+#include "events/event_text.h"
 
-void corvane_unit_properties_saved_xml(payload_cursor&, ui::event::xml_output&)
+namespace {
+
+using render::colour;
+using namespace render::colours;
+using ui::event::text_output;
+using ui::event::xml_output;
+
+// --- Unit property switches ------------------------------------------------
+
+// The four switches of a unit's properties, in payload order, with the label
+// of the text form and the element of the XML form.
+struct property_switch {
+    std::string_view label;
+    std::string_view element;
+};
+
+constexpr std::array<property_switch, 4> unit_switches{{
+    {"Front Panel Lock Out", "FrontPanelLockout"},
+    {"Unlock Alarm Mask", "UnlockAlarmMask"},
+    {"Enable Heartbeat", "EnableHeartbeat"},
+    {"Auto Home State Timeout", "AutoHomeStateTimeout"},
+}};
+
+// Braced initialisers run left to right, so the readers below take the
+// fields in payload order.
+
+// Each switch is a u32 that counts only as zero or not zero.
+std::array<bool, unit_switches.size()> read_unit_switches(payload_cursor& in)
 {
-    throw not_implemented();
+    std::array<bool, unit_switches.size()> on{};
+    for (bool& flag : on)
+        flag = in.read_u32() != 0;
+    return on;
 }
 
-render::colour corvane_unit_properties_saved_text(payload_cursor&, ui::event::text_output&)
+// --- Upgrades ----------------------------------------------------------------
+
+// The image sent to the units and the transfer rate, shown divided by 1000.
+struct upgrade {
+    payload_text image;
+    decimal_value rate;
+
+    static upgrade read(payload_cursor& in)
+    {
+        return {in.read_wstring(), decimal_value::from(in.read_u32()).divided_by(1000)};
+    }
+
+    // "<image>, <rate>", after the event's own lead-in.
+    void write_text(text_output& out) const { out << image.view() << ", " << rate; }
+
+    void write_xml(xml_output& out) const
+    {
+        element_line(out, "Image", image.view());
+        element_line(out, "Rate", rate);
+    }
+};
+
+// An upgrade's failure element, only when it failed.
+void write_failure_element(xml_output& out, const command_outcome& outcome)
 {
-    throw not_implemented();
+    if (outcome.failed)
+        element_line(out, "Failure", outcome.error.view());
 }
 
-void unit_properties_saved_xml(payload_cursor&, ui::event::xml_output&)
+// --- Carrier modes -----------------------------------------------------------
+
+constexpr std::uint32_t carrier_mode_bits = 0xF0;
+
+constexpr OptionEntry carrier_modes[] = {
+    OPTION("None", 0x00),
+    OPTION("SCPC", 0x10),
+    OPTION("STDMA", 0x20),
+};
+
+struct device_properties {
+    payload_text name;
+    std::uint32_t carrier;   // already masked
+    payload_text result;
+
+    static device_properties read(payload_cursor& in)
+    {
+        return {in.read_wstring(), in.read_u32() & carrier_mode_bits, in.read_wstring()};
+    }
+
+    const OptionEntry* carrier_row() const noexcept { return find_option(carrier_modes, carrier); }
+};
+
+// --- Property records of the newer units -------------------------------------
+
+struct unit_properties {
+    std::uint32_t address;
+    bool lockout;
+    bool unlock_mask;
+    bool heartbeat;
+    std::int32_t home_state_timeout;   // seconds
+    command_outcome outcome;
+
+    static unit_properties read(payload_cursor& in)
+    {
+        return {in.read_u32(), in.read_u8() != 0, in.read_u8() != 0, in.read_u8() != 0, in.read_i32(),
+                command_outcome::read(in)};
+    }
+};
+
+struct gull_properties {
+    std::uint32_t address;
+    payload_text name;
+    command_outcome outcome;
+
+    static gull_properties read(payload_cursor& in)
+    {
+        return {in.read_u32(), in.read_wstring(), command_outcome::read(in)};
+    }
+};
+
+// --- Timer settings ---------------------------------------------------------
+
+struct heartbeat_change {
+    bool enabled;
+    std::int32_t timeout;    // milliseconds
+    std::int32_t interval;   // milliseconds
+    command_outcome outcome;
+
+    static heartbeat_change read(payload_cursor& in)
+    {
+        return {in.read_u8() != 0, in.read_i32(), in.read_i32(), command_outcome::read(in)};
+    }
+};
+
+struct home_state_change {
+    std::int32_t interval;   // seconds
+    command_outcome outcome;
+
+    static home_state_change read(payload_cursor& in) { return {in.read_i32(), command_outcome::read(in)}; }
+};
+
+// --- Property records of the older units ------------------------------------
+
+struct unit_properties_v32 {
+    std::uint32_t address;
+    std::int32_t lockout;
+    std::int32_t unlock_mask;
+    payload_text result;
+
+    static unit_properties_v32 read(payload_cursor& in)
+    {
+        return {in.read_u32(), in.read_i32(), in.read_i32(), in.read_wstring()};
+    }
+};
+
+} // namespace
+
+// --- Corvane Unit Properties Saved -------------------------------------------
+
+void corvane_unit_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    const auto on = read_unit_switches(in);
+    // The result text is optional here: the switches alone make a complete event.
+    const payload_text result = in.remaining() > 0 ? in.read_wstring() : payload_text{};
+    for (std::size_t i = 0; i < unit_switches.size(); ++i)
+        element_line(out, unit_switches[i].element, true_false(on[i]));
+    if (!result.empty())
+        element_line(out, "result", result.view());
 }
 
-render::colour unit_properties_saved_text(payload_cursor&, ui::event::text_output&)
+colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const auto on = read_unit_switches(in);
+    out << "Unit Properties Saved, ";
+    for (std::size_t i = 0; i < unit_switches.size(); ++i)
+        out << (i == 0 ? "" : ", ") << unit_switches[i].label << ": (" << true_false(on[i]) << ")";
+    return inventory;
 }
 
-void gull_properties_saved_xml(payload_cursor&, ui::event::xml_output&)
+// --- Unit Properties Saved ---------------------------------------------------
+
+void unit_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    const unit_properties p = unit_properties::read(in);
+    element_line(out, "IpAddress", dotted_ipv4{p.address});
+    element_line(out, "FrontPanelLockout", true_false(p.lockout));
+    element_line(out, "UnlockAlarmMask", true_false(p.unlock_mask));
+    element_line(out, "EnableHeartbeat", true_false(p.heartbeat));
+    element_line(out, "AutoHomeStateTimeout", decimal(p.home_state_timeout));
+    element_line(out, "Result", p.outcome.result_text());
 }
 
-render::colour gull_properties_saved_text(payload_cursor&, ui::event::text_output&)
+colour unit_properties_saved_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const unit_properties p = unit_properties::read(in);
+    out << "Unit properties saved - IP:" << dotted_ipv4{p.address} << ", Front Panel Lock Out: " << on_off(p.lockout)
+        << ", Unlock Alarm Mask: " << on_off(p.unlock_mask) << ", Heartbeat: " << on_off(p.heartbeat)
+        << ", Auto Home-state Timeout: " << decimal(p.home_state_timeout) << "s" << p.outcome;
+    return p.outcome.colour(inventory);
 }
 
-void register_network_id_xml(payload_cursor&, ui::event::xml_output&)
+// --- GULL Properties Saved ---------------------------------------------------
+
+void gull_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    const gull_properties p = gull_properties::read(in);
+    element_line(out, "IpAddress", dotted_ipv4{p.address});
+    element_line(out, "Name", p.name.view());
+    element_line(out, "Result", p.outcome.result_text());
 }
 
-render::colour register_network_id_text(payload_cursor&, ui::event::text_output&)
+colour gull_properties_saved_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const gull_properties p = gull_properties::read(in);
+    out << "GULL properties saved - IP:" << dotted_ipv4{p.address} << ", Name: " << p.name.view() << p.outcome;
+    return p.outcome.colour(inventory);
 }
 
-void paramfile_write_xml(payload_cursor&, ui::event::xml_output&)
+// --- Corvane Register Network ID ---------------------------------------------
+
+void register_network_id_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    element_line(out, "network-id", decimal(in.read_u8()));
 }
 
-render::colour paramfile_write_text(payload_cursor&, ui::event::text_output&)
+colour register_network_id_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const std::uint8_t network = in.read_u8();
+    out << "A network wide registration was issued for the network with the id of " << decimal(network) << ".";
+    return command;
 }
 
-void paramfile_autosave_xml(payload_cursor&, ui::event::xml_output&)
+// --- Corvane Unit Paramfile Write --------------------------------------------
+
+void paramfile_write_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    element_line(out, "save", true_false(in.read_u8() != 0));
 }
 
-render::colour paramfile_autosave_text(payload_cursor&, ui::event::text_output&)
+colour paramfile_write_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const bool saved = in.read_u8() != 0;
+    out << "A param file was written to the unit.";
+    if (saved)
+        out << " The new configuration was saved to flash.";
+    return command;
 }
 
-void unit_upgrade_xml(payload_cursor&, ui::event::xml_output&)
+// --- Corvane Unit Paramfile Autosave -----------------------------------------
+
+void paramfile_autosave_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    element_line(out, "result", std::string_view(in.read_u8() != 0 ? "failed" : "succeeded"));
 }
 
-render::colour unit_upgrade_text(payload_cursor&, ui::event::text_output&)
+colour paramfile_autosave_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const bool failed = in.read_u8() != 0;
+    out << "An automatic configuration backup " << (failed ? " failed.\n" : " succeeded.\n");
+    return failed ? failure : green;
 }
 
-void multiple_unit_upgrade_xml(payload_cursor&, ui::event::xml_output&)
+// --- Corvane Unit Upgrade, Corvane Multiple Unit Upgrade ---------------------
+
+void unit_upgrade_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    const upgrade u = upgrade::read(in);
+    const command_outcome outcome = command_outcome::read(in);
+    u.write_xml(out);
+    write_failure_element(out, outcome);
 }
 
-render::colour multiple_unit_upgrade_text(payload_cursor&, ui::event::text_output&)
+colour unit_upgrade_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const upgrade u = upgrade::read(in);
+    const command_outcome outcome = command_outcome::read(in);
+    out << "Unit Upgrade: ";
+    u.write_text(out);
+    out << outcome;
+    return outcome.colour(command);
 }
 
-void heartbeat_toggled_xml(payload_cursor&, ui::event::xml_output&)
+void multiple_unit_upgrade_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    const upgrade u = upgrade::read(in);
+    const std::uint32_t units = in.read_u32();
+    const command_outcome outcome = command_outcome::read(in);
+    u.write_xml(out);
+    element_line(out, "Units", decimal(units));
+    write_failure_element(out, outcome);
 }
 
-render::colour heartbeat_toggled_text(payload_cursor&, ui::event::text_output&)
+colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const upgrade u = upgrade::read(in);
+    const std::uint32_t units = in.read_u32();
+    const command_outcome outcome = command_outcome::read(in);
+    out << "Multiple Unit Upgrade: ";
+    u.write_text(out);
+    out << ", Units: " << decimal(units) << outcome;
+    return outcome.colour(command);
 }
 
-void home_state_timeout_changed_xml(payload_cursor&, ui::event::xml_output&)
+// --- Heartbeat Toggled -------------------------------------------------------
+
+void heartbeat_toggled_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    const heartbeat_change h = heartbeat_change::read(in);
+    element_line(out, "Enabled", true_false(h.enabled));
+    element_line(out, "Timeout", decimal(h.timeout));
+    element_line(out, "Interval", decimal(h.interval));
+    element_line(out, "Result", h.outcome.result_text());
 }
 
-render::colour home_state_timeout_changed_text(payload_cursor&, ui::event::text_output&)
+colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const heartbeat_change h = heartbeat_change::read(in);
+    out << "Unit Heartbeat Toggled - Enabled:" << true_false(h.enabled) << ", Timeout: " << decimal(h.timeout)
+        << "ms, Interval: " << decimal(h.interval) << "ms" << h.outcome;
+    return h.outcome.colour(command);
 }
 
-void manager_properties_saved_xml(payload_cursor&, ui::event::text_output&)
+// --- Auto Home-state Timeout Changed -----------------------------------------
+
+void home_state_timeout_changed_xml(payload_cursor& in, xml_output& out)
 {
-    throw not_implemented();
+    const home_state_change h = home_state_change::read(in);
+    element_line(out, "Interval", decimal(h.interval));
+    element_line(out, "Result", h.outcome.result_text());
 }
 
-render::colour manager_properties_saved_text(payload_cursor&, ui::event::text_output&)
+colour home_state_timeout_changed_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const home_state_change h = home_state_change::read(in);
+    out << "Interval: " << decimal(h.interval) << "s" << h.outcome;
+    return h.outcome.colour(command);
 }
 
-void unit_properties_saved_v32_xml(payload_cursor&, ui::event::text_output&)
+// --- Corvane Manager Properties Saved ----------------------------------------
+
+void manager_properties_saved_xml(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const std::int32_t force_restart = in.read_i32();
+    const payload_text result = in.read_wstring();
+    out << "<!-- Corvane Manager Properties Saved  -->\n"
+        << "\t\t<ForceRestart>" << decimal(force_restart) << "</ForceRestart>\n";
+    if (!result.empty())
+        write_result_element(out, result);
 }
 
-render::colour unit_properties_saved_v32_text(payload_cursor&, ui::event::text_output&)
+colour manager_properties_saved_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const bool restarted = in.read_i32() != 0;
+    const payload_text result = in.read_wstring();
+    out << "Configuration properties saved";
+    if (restarted)
+        out << " and communications restarted";
+    write_if_any(out, ": ", result);
+    return inventory;
 }
 
-void device_properties_saved_xml(payload_cursor&, ui::event::text_output&)
+// --- Corvane Unit Properties Saved Orrin 3.2 ---------------------------------
+
+void unit_properties_saved_v32_xml(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const unit_properties_v32 p = unit_properties_v32::read(in);
+    out << "<!-- Unit Properties Saved  -->\n"
+        << "\t\t<IpAddress>" << dotted_ipv4{p.address} << "</IpAddress>\n"
+        << "\t\t<FrontPanelLockOut>" << decimal(p.lockout) << "</FrontPanelLockOut>\n"
+        << "\t\t<UnlockAlarmMask>" << decimal(p.unlock_mask) << "</UnlockAlarmMask>\n";
+    if (!p.result.empty())
+        write_result_element(out, p.result);
 }
 
-render::colour device_properties_saved_text(payload_cursor&, ui::event::text_output&)
+colour unit_properties_saved_v32_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const unit_properties_v32 p = unit_properties_v32::read(in);
+    out << "Unit properties saved - IP:" << dotted_ipv4{p.address} << ", "
+        << "Front Panel Lock Out: " << on_off(p.lockout != 0) << ", "
+        << "Unlock Alarm Mask: " << on_off(p.unlock_mask != 0);
+    write_if_any(out, ": ", p.result);
+    return inventory;
 }
 
-void modem_flag_xml(payload_cursor&, ui::event::text_output&)
+// --- Corvane Device Properties Saved -----------------------------------------
+
+void device_properties_saved_xml(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const device_properties p = device_properties::read(in);
+    out << "<!-- Device Configuration Saved -->\n"
+        << "\t\t<DeviceName>" << p.name.view() << "\t</DeviceName>"
+        << "\t\t<Carrier>";
+    if (const OptionEntry* row = p.carrier_row())
+        out << row->wide << "</Carrier>\n";
+    else
+        out << "unknown" << decimal(p.carrier) << ")</Carrier>";
+    if (!p.result.empty())
+        write_result_element(out, p.result);
 }
 
-render::colour modem_flag_text(payload_cursor&, ui::event::text_output&)
+colour device_properties_saved_text(payload_cursor& in, text_output& out)
 {
-    throw not_implemented();
+    const device_properties p = device_properties::read(in);
+    out << "Device properties saved. Name: " << p.name.view() << ", Carrier: ";
+    if (const OptionEntry* row = p.carrier_row())
+        out << row->wide;
+    write_if_any(out, ": ", p.result);
+    return inventory;
 }
 
-render::colour demodulator_failed_text(payload_cursor&, ui::event::text_output& out)
+// --- Corvane Modem Flag ------------------------------------------------------
+
+// The two forms read the payload differently, and each is kept as servers
+// already record it: the text form takes a result code after the two leading
+// words and an error text only when that code is negative; the XML form takes
+// a text directly after the two words. A payload written for one form is
+// misread by the other.
+
+void modem_flag_xml(payload_cursor& in, text_output& out)
+{
+    in.read_u32();
+    in.read_u32();
+    const payload_text result = in.read_wstring();
+    out << "<!-- Modem Flag Toggled  -->\n";
+    if (!result.empty())
+        write_result_element(out, result, "\t\t");
+}
+
+colour modem_flag_text(payload_cursor& in, text_output& out)
+{
+    in.read_u32();
+    in.read_u32();
+    out << command_outcome::read(in);
+    return inventory;
+}
+
+// --- Demodulator Failed Event ------------------------------------------------
+
+colour demodulator_failed_text(payload_cursor&, text_output& out)
 {
     out << "Device marked as unavailable due to switching error.";
-    return render::colours::failure;
+    return failure;
 }

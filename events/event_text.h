@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/event_output.h"
 #include "core/output_stream.h"
 #include "core/text_format.h"
 #include "devices/device_types.h"
@@ -36,4 +37,23 @@ template <text_sink Out>
 void write_result_element(Out& out, wstring_view text, std::string_view indent = "")
 {
     out << indent << "<result>\"" << text << "\"</result>\n";
+}
+
+// Flags as the configuration texts spell them.
+constexpr std::string_view true_false(bool flag) noexcept
+{
+    return flag ? "true" : "false";
+}
+
+constexpr std::string_view on_off(bool flag) noexcept
+{
+    return flag ? "On" : "Off";
+}
+
+// An element of the XML stream on a line of its own.
+template <class Value>
+void element_line(ui::event::xml_output& out, std::string_view name, const Value& value)
+{
+    out.element(name, value);
+    out << "\n";
 }
