@@ -38,13 +38,7 @@ struct integer {
 
 // The unit's Ethernet address as the units report it: the whole 64-bit word
 // (low 32-bit word first on the wire) in decimal, not as hexadecimal bytes.
-struct mac_address {
-    template <text_sink Out>
-    void operator()(Out& out, std::uint64_t value) const
-    {
-        out << decimal(value);
-    }
-};
+using mac_address = integer;
 
 // The unit's temperature: a signed byte of whole degrees Celsius, in decimal
 // without a unit ("-5" for 0xFB).

@@ -16,6 +16,10 @@ using namespace render::colours;
 using ui::event::text_output;
 using ui::event::xml_output;
 
+// Each event's fields are read in full before anything is written, so a short
+// payload leaves an empty buffer. Braced initialisers run left to right, so
+// the readers below take the fields in payload order.
+
 // --- Unit property switches ------------------------------------------------
 
 // The four switches of a unit's properties, in payload order, with the label
@@ -31,9 +35,6 @@ constexpr std::array<property_switch, 4> unit_switches{{
     {"Enable Heartbeat", "EnableHeartbeat"},
     {"Auto Home State Timeout", "AutoHomeStateTimeout"},
 }};
-
-// Braced initialisers run left to right, so the readers below take the
-// fields in payload order.
 
 // Each switch is a u32 that counts only as zero or not zero.
 std::array<bool, unit_switches.size()> read_unit_switches(payload_cursor& in)
