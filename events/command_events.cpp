@@ -1,58 +1,166 @@
 #include "events/command_events.h"
 
+#include <algorithm>
+#include <span>
+
 #include "core/text_format.h"
+#include "events/command_text.h"
+#include "events/event_text.h"
 
-void unit_registration_xml(payload_cursor&, ui::event::xml_output&)
+namespace {
+
+using render::colours::command;
+
+constexpr std::string_view registration_sources[] = {"system", "unit", "user"};
+
+std::string_view registration_source(std::uint8_t code) noexcept
 {
-    throw not_implemented();
+    const std::string_view* name = coded_name(registration_sources, code);
+    return name ? *name : "unknown";
 }
 
-render::colour unit_registration_text(payload_cursor&, ui::event::text_output&)
+// Unit and subnet resets word their type differently in each form; the
+// blanks and tabs of each row are part of its output.
+constexpr reset_wording unit_reset_sentence{" reset command ", "Unknown reset command (", ") "};
+constexpr reset_wording subnet_reset_sentence{" Reset", "Unknown reset command (", ")"};
+constexpr reset_wording unit_reset_element{"", "Unknown(", ")"};
+constexpr reset_wording subnet_reset_element{"", "\t\tUnknown(", ")"};
+
+constexpr outcome_wording registration_outcome{"succeeded.", "failed: ", ""};
+constexpr outcome_wording reset_outcome{"succeeded.", "failed with an error of '", "'."};
+// Only the subnet reset ends its success element with a line break.
+constexpr outcome_wording unit_reset_result_element{"\t\t<result code='success'/>", failed_result_element_open,
+                                                    failed_result_element_close};
+constexpr outcome_wording subnet_reset_result_element{"\t\t<result code='success'/>\n", failed_result_element_open,
+                                                      failed_result_element_close};
+
+// Subnet address and mask, as "10.1.0.0:255.255.0.0" in the sentence and as
+// two elements in XML.
+struct subnet {
+    std::uint32_t address;
+    std::uint32_t mask;
+};
+
+subnet read_subnet(payload_cursor& in)
 {
-    throw not_implemented();
+    const std::uint32_t address = in.read_u32();
+    return {address, in.read_u32()};
 }
 
-render::colour multicast_port_failure_text(payload_cursor&, ui::event::text_output&)
+// UTF-16LE units copied through in pieces. The size rule of the event has
+// already matched the count against the payload, so the message may be as
+// long as it says; only the caller's buffer bounds it.
+void write_utf16le(ui::event::text_output& out, std::span<const std::uint8_t> bytes)
 {
-    throw not_implemented();
+    wchar piece[64];
+    while (bytes.size() >= 2) {
+        const std::size_t units = std::min(std::size(piece), bytes.size() / 2);
+        for (std::size_t i = 0; i < units; ++i)
+            piece[i] = static_cast<wchar>(bytes[2 * i] | bytes[2 * i + 1] << 8);
+        out.write(piece, units);
+        bytes = bytes.subspan(2 * units);
+    }
 }
 
-void unit_reset_xml(payload_cursor&, ui::event::text_output&)
+} // namespace
+
+void unit_registration_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    throw not_implemented();
+    const std::string_view source = registration_source(in.read_u8());
+    out.element("source", source);
+    out << "\n";
+    const auto result = read_command_result<&payload_cursor::read_string>(in);
+    out.element("result", result.failed() ? result.error : std::string_view("succeeded"));
+    out << "\n";
 }
 
-render::colour unit_reset_text(payload_cursor&, ui::event::text_output&)
+render::colour unit_registration_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const std::string_view source = registration_source(in.read_u8());
+    out << "A " << source << " generated registration ";
+    const auto result = read_command_result<&payload_cursor::read_string>(in);
+    write_outcome(out, result, registration_outcome);
+    return result.failed() ? render::colours::red : render::colours::green;
 }
 
-void subnet_reset_xml(payload_cursor&, ui::event::text_output&)
+render::colour multicast_port_failure_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const std::uint16_t count = in.read_u16();
+    out << "Multicast Port Failure: ";
+    write_utf16le(out, in.take(2 * std::size_t(count)));
+    return render::colours::failure;
 }
 
-render::colour subnet_reset_text(payload_cursor&, ui::event::text_output&)
+void unit_reset_xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const std::int32_t type = in.read_i32();
+    out << "\t\t\t<reset-type>" << reset_type{type, unit_reset_element} << "</reset-type>\n";
+    write_blind_mode_element(out, read_blind_mode(in));
+    write_outcome(out, read_command_result(in), unit_reset_result_element);
 }
 
-void save_to_flash_xml(payload_cursor&, ui::event::text_output&)
+render::colour unit_reset_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    // The type is a u32 that the sentence has always shown signed.
+    out << reset_type{in.read_i32(), unit_reset_sentence};
+    if (read_blind_mode(in))
+        out << " in blind mode ";
+    write_outcome(out, read_command_result(in), reset_outcome);
+    return command;
 }
 
-render::colour save_to_flash_text(payload_cursor&, ui::event::text_output&)
+void subnet_reset_xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const std::uint8_t type = in.read_u8();
+    out << "\t\t<reset-type>" << reset_type{type, subnet_reset_element} << "</reset-type>\n";
+    const subnet net = read_subnet(in);
+    out << "\t\t<Address>" << dotted_ipv4{net.address} << "</Address>\n";
+    out << "\t\t<Mask>" << dotted_ipv4{net.mask} << "</Mask>\n";
+    write_outcome(out, read_command_result(in), subnet_reset_result_element);
 }
 
-void force_registration_xml(payload_cursor&, ui::event::text_output&)
+render::colour subnet_reset_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    out << reset_type{in.read_u8(), subnet_reset_sentence};
+    const subnet net = read_subnet(in);
+    out << " on subnet " << dotted_ipv4{net.address} << ":" << dotted_ipv4{net.mask} << " ";
+    write_outcome(out, read_command_result(in), reset_outcome);
+    return command;
 }
 
-render::colour force_registration_text(payload_cursor&, ui::event::text_output&)
+void save_to_flash_xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    out << "\t\t<!-- Save EEPROM -->\n";
+    write_blind_mode_element(out, read_blind_mode(in));
+    const payload_text result = in.read_wstring();
+    write_result_element(out, result.empty() ? wstring_view(WSTR("success")) : result.view());
+}
+
+render::colour save_to_flash_text(payload_cursor& in, ui::event::text_output& out)
+{
+    const bool blind = read_blind_mode(in);
+    // The unit reports trouble only in the text that follows; the sentence
+    // stands either way.
+    out << "Unit's configuration successfully saved to flash.";
+    if (blind)
+        out << " in blind mode";
+    out << in.read_wstring();
+    return command;
+}
+
+void force_registration_xml(payload_cursor& in, ui::event::text_output& out)
+{
+    out << "\t\t<!-- Force Registration -->\n";
+    write_result_element_if_any(out, in.read_wstring(), "\t\t");
+}
+
+render::colour force_registration_text(payload_cursor& in, ui::event::text_output& out)
+{
+    out << "Force Registration";
+    const payload_text result = in.read_wstring();
+    if (result.empty())
+        out << " command sent";
+    else
+        out << " failed: " << result;
+    return command;
 }

@@ -6,7 +6,7 @@
 #include "core/text_format.h"
 #include "devices/decimal_value.h"
 #include "devices/option_entry.h"
-#include "events/command_outcome.h"
+#include "events/command_text.h"
 #include "events/event_text.h"
 
 namespace {
@@ -19,6 +19,40 @@ using ui::event::xml_output;
 // Each event's fields are read in full before anything is written, so a short
 // payload leaves an empty buffer. Braced initialisers run left to right, so
 // the readers below take the fields in payload order.
+
+// --- Outcomes -----------------------------------------------------------------
+
+// The newer events end in a result code and, after a failure, its error text.
+using outcome = command_result<payload_text>;
+
+outcome read_outcome(payload_cursor& in)
+{
+    return read_command_result(in);
+}
+
+// In text, ": " and the error text after a failure (even an empty one).
+constexpr outcome_wording failure_tail{"", ": ", ""};
+
+// Ends a sentence with its outcome and gives its colour: failures show in the
+// failure colour, whatever the event.
+colour end_with_outcome(text_output& out, const outcome& result, colour success)
+{
+    write_outcome(out, result, failure_tail);
+    return result.failed() ? failure : success;
+}
+
+// The `Result` element of the XML stream forms: "Ok", or the error text.
+void write_result_line(xml_output& out, const outcome& result)
+{
+    element_line(out, "Result", result.failed() ? result.error.view() : wstring_view(WSTR("Ok")));
+}
+
+// The upgrades' `Failure` element, only after a failure.
+void write_failure_line(xml_output& out, const outcome& result)
+{
+    if (result.failed())
+        element_line(out, "Failure", result.error.view());
+}
 
 // --- Unit property switches ------------------------------------------------
 
@@ -67,13 +101,6 @@ struct upgrade {
     }
 };
 
-// An upgrade's failure element, only when it failed.
-void write_failure_element(xml_output& out, const command_outcome& outcome)
-{
-    if (outcome.failed)
-        element_line(out, "Failure", outcome.error.view());
-}
-
 // --- Carrier modes -----------------------------------------------------------
 
 constexpr std::uint32_t carrier_mode_bits = 0xF0;
@@ -105,23 +132,23 @@ struct unit_properties {
     bool unlock_mask;
     bool heartbeat;
     std::int32_t home_state_timeout;   // seconds
-    command_outcome outcome;
+    outcome result;
 
     static unit_properties read(payload_cursor& in)
     {
         return {in.read_u32(), in.read_u8() != 0, in.read_u8() != 0, in.read_u8() != 0, in.read_i32(),
-                command_outcome::read(in)};
+                read_outcome(in)};
     }
 };
 
 struct gull_properties {
     std::uint32_t address;
     payload_text name;
-    command_outcome outcome;
+    outcome result;
 
     static gull_properties read(payload_cursor& in)
     {
-        return {in.read_u32(), in.read_wstring(), command_outcome::read(in)};
+        return {in.read_u32(), in.read_wstring(), read_outcome(in)};
     }
 };
 
@@ -131,19 +158,19 @@ struct heartbeat_change {
     bool enabled;
     std::int32_t timeout;    // milliseconds
     std::int32_t interval;   // milliseconds
-    command_outcome outcome;
+    outcome result;
 
     static heartbeat_change read(payload_cursor& in)
     {
-        return {in.read_u8() != 0, in.read_i32(), in.read_i32(), command_outcome::read(in)};
+        return {in.read_u8() != 0, in.read_i32(), in.read_i32(), read_outcome(in)};
     }
 };
 
 struct home_state_change {
     std::int32_t interval;   // seconds
-    command_outcome outcome;
+    outcome result;
 
-    static home_state_change read(payload_cursor& in) { return {in.read_i32(), command_outcome::read(in)}; }
+    static home_state_change read(payload_cursor& in) { return {in.read_i32(), read_outcome(in)}; }
 };
 
 // --- Property records of the older units ------------------------------------
@@ -170,7 +197,7 @@ void corvane_unit_properties_saved_xml(payload_cursor& in, xml_output& out)
     // The result text is optional here: the switches alone make a complete event.
     const payload_text result = in.remaining() > 0 ? in.read_wstring() : payload_text{};
     for (std::size_t i = 0; i < unit_switches.size(); ++i)
-        element_line(out, unit_switches[i].element, true_false(on[i]));
+        element_line(out, unit_switches[i].element, lowercase_true_false(on[i]));
     if (!result.empty())
         element_line(out, "result", result.view());
 }
@@ -180,7 +207,7 @@ colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
     const auto on = read_unit_switches(in);
     out << "Unit Properties Saved, ";
     for (std::size_t i = 0; i < unit_switches.size(); ++i)
-        out << (i == 0 ? "" : ", ") << unit_switches[i].label << ": (" << true_false(on[i]) << ")";
+        out << (i == 0 ? "" : ", ") << unit_switches[i].label << ": (" << lowercase_true_false(on[i]) << ")";
     return inventory;
 }
 
@@ -190,11 +217,11 @@ void unit_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
     const unit_properties p = unit_properties::read(in);
     element_line(out, "IpAddress", dotted_ipv4{p.address});
-    element_line(out, "FrontPanelLockout", true_false(p.lockout));
-    element_line(out, "UnlockAlarmMask", true_false(p.unlock_mask));
-    element_line(out, "EnableHeartbeat", true_false(p.heartbeat));
+    element_line(out, "FrontPanelLockout", lowercase_true_false(p.lockout));
+    element_line(out, "UnlockAlarmMask", lowercase_true_false(p.unlock_mask));
+    element_line(out, "EnableHeartbeat", lowercase_true_false(p.heartbeat));
     element_line(out, "AutoHomeStateTimeout", decimal(p.home_state_timeout));
-    element_line(out, "Result", p.outcome.result_text());
+    write_result_line(out, p.result);
 }
 
 colour unit_properties_saved_text(payload_cursor& in, text_output& out)
@@ -202,8 +229,8 @@ colour unit_properties_saved_text(payload_cursor& in, text_output& out)
     const unit_properties p = unit_properties::read(in);
     out << "Unit properties saved - IP:" << dotted_ipv4{p.address} << ", Front Panel Lock Out: " << on_off(p.lockout)
         << ", Unlock Alarm Mask: " << on_off(p.unlock_mask) << ", Heartbeat: " << on_off(p.heartbeat)
-        << ", Auto Home-state Timeout: " << decimal(p.home_state_timeout) << "s" << p.outcome;
-    return p.outcome.colour(inventory);
+        << ", Auto Home-state Timeout: " << decimal(p.home_state_timeout) << "s";
+    return end_with_outcome(out, p.result, inventory);
 }
 
 // --- GULL Properties Saved ---------------------------------------------------
@@ -213,14 +240,14 @@ void gull_properties_saved_xml(payload_cursor& in, xml_output& out)
     const gull_properties p = gull_properties::read(in);
     element_line(out, "IpAddress", dotted_ipv4{p.address});
     element_line(out, "Name", p.name.view());
-    element_line(out, "Result", p.outcome.result_text());
+    write_result_line(out, p.result);
 }
 
 colour gull_properties_saved_text(payload_cursor& in, text_output& out)
 {
     const gull_properties p = gull_properties::read(in);
-    out << "GULL properties saved - IP:" << dotted_ipv4{p.address} << ", Name: " << p.name.view() << p.outcome;
-    return p.outcome.colour(inventory);
+    out << "GULL properties saved - IP:" << dotted_ipv4{p.address} << ", Name: " << p.name.view();
+    return end_with_outcome(out, p.result, inventory);
 }
 
 // --- Corvane Register Network ID ---------------------------------------------
@@ -241,7 +268,7 @@ colour register_network_id_text(payload_cursor& in, text_output& out)
 
 void paramfile_write_xml(payload_cursor& in, xml_output& out)
 {
-    element_line(out, "save", true_false(in.read_u8() != 0));
+    element_line(out, "save", lowercase_true_false(in.read_u8() != 0));
 }
 
 colour paramfile_write_text(payload_cursor& in, text_output& out)
@@ -272,40 +299,39 @@ colour paramfile_autosave_text(payload_cursor& in, text_output& out)
 void unit_upgrade_xml(payload_cursor& in, xml_output& out)
 {
     const upgrade u = upgrade::read(in);
-    const command_outcome outcome = command_outcome::read(in);
+    const outcome result = read_outcome(in);
     u.write_xml(out);
-    write_failure_element(out, outcome);
+    write_failure_line(out, result);
 }
 
 colour unit_upgrade_text(payload_cursor& in, text_output& out)
 {
     const upgrade u = upgrade::read(in);
-    const command_outcome outcome = command_outcome::read(in);
+    const outcome result = read_outcome(in);
     out << "Unit Upgrade: ";
     u.write_text(out);
-    out << outcome;
-    return outcome.colour(command);
+    return end_with_outcome(out, result, command);
 }
 
 void multiple_unit_upgrade_xml(payload_cursor& in, xml_output& out)
 {
     const upgrade u = upgrade::read(in);
     const std::uint32_t units = in.read_u32();
-    const command_outcome outcome = command_outcome::read(in);
+    const outcome result = read_outcome(in);
     u.write_xml(out);
     element_line(out, "Units", decimal(units));
-    write_failure_element(out, outcome);
+    write_failure_line(out, result);
 }
 
 colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
 {
     const upgrade u = upgrade::read(in);
     const std::uint32_t units = in.read_u32();
-    const command_outcome outcome = command_outcome::read(in);
+    const outcome result = read_outcome(in);
     out << "Multiple Unit Upgrade: ";
     u.write_text(out);
-    out << ", Units: " << decimal(units) << outcome;
-    return outcome.colour(command);
+    out << ", Units: " << decimal(units);
+    return end_with_outcome(out, result, command);
 }
 
 // --- Heartbeat Toggled -------------------------------------------------------
@@ -313,18 +339,18 @@ colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
 void heartbeat_toggled_xml(payload_cursor& in, xml_output& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
-    element_line(out, "Enabled", true_false(h.enabled));
+    element_line(out, "Enabled", lowercase_true_false(h.enabled));
     element_line(out, "Timeout", decimal(h.timeout));
     element_line(out, "Interval", decimal(h.interval));
-    element_line(out, "Result", h.outcome.result_text());
+    write_result_line(out, h.result);
 }
 
 colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
-    out << "Unit Heartbeat Toggled - Enabled:" << true_false(h.enabled) << ", Timeout: " << decimal(h.timeout)
-        << "ms, Interval: " << decimal(h.interval) << "ms" << h.outcome;
-    return h.outcome.colour(command);
+    out << "Unit Heartbeat Toggled - Enabled:" << lowercase_true_false(h.enabled) << ", Timeout: " << decimal(h.timeout)
+        << "ms, Interval: " << decimal(h.interval) << "ms";
+    return end_with_outcome(out, h.result, command);
 }
 
 // --- Auto Home-state Timeout Changed -----------------------------------------
@@ -333,14 +359,14 @@ void home_state_timeout_changed_xml(payload_cursor& in, xml_output& out)
 {
     const home_state_change h = home_state_change::read(in);
     element_line(out, "Interval", decimal(h.interval));
-    element_line(out, "Result", h.outcome.result_text());
+    write_result_line(out, h.result);
 }
 
 colour home_state_timeout_changed_text(payload_cursor& in, text_output& out)
 {
     const home_state_change h = home_state_change::read(in);
-    out << "Interval: " << decimal(h.interval) << "s" << h.outcome;
-    return h.outcome.colour(command);
+    out << "Interval: " << decimal(h.interval) << "s";
+    return end_with_outcome(out, h.result, command);
 }
 
 // --- Corvane Manager Properties Saved ----------------------------------------
@@ -351,8 +377,7 @@ void manager_properties_saved_xml(payload_cursor& in, text_output& out)
     const payload_text result = in.read_wstring();
     out << "<!-- Corvane Manager Properties Saved  -->\n"
         << "\t\t<ForceRestart>" << decimal(force_restart) << "</ForceRestart>\n";
-    if (!result.empty())
-        write_result_element(out, result);
+    write_result_element_if_any(out, result);
 }
 
 colour manager_properties_saved_text(payload_cursor& in, text_output& out)
@@ -375,8 +400,7 @@ void unit_properties_saved_v32_xml(payload_cursor& in, text_output& out)
         << "\t\t<IpAddress>" << dotted_ipv4{p.address} << "</IpAddress>\n"
         << "\t\t<FrontPanelLockOut>" << decimal(p.lockout) << "</FrontPanelLockOut>\n"
         << "\t\t<UnlockAlarmMask>" << decimal(p.unlock_mask) << "</UnlockAlarmMask>\n";
-    if (!p.result.empty())
-        write_result_element(out, p.result);
+    write_result_element_if_any(out, p.result);
 }
 
 colour unit_properties_saved_v32_text(payload_cursor& in, text_output& out)
@@ -401,8 +425,7 @@ void device_properties_saved_xml(payload_cursor& in, text_output& out)
         out << row->wide << "</Carrier>\n";
     else
         out << "unknown" << decimal(p.carrier) << ")</Carrier>";
-    if (!p.result.empty())
-        write_result_element(out, p.result);
+    write_result_element_if_any(out, p.result);
 }
 
 colour device_properties_saved_text(payload_cursor& in, text_output& out)
@@ -429,15 +452,14 @@ void modem_flag_xml(payload_cursor& in, text_output& out)
     in.read_u32();
     const payload_text result = in.read_wstring();
     out << "<!-- Modem Flag Toggled  -->\n";
-    if (!result.empty())
-        write_result_element(out, result, "\t\t");
+    write_result_element_if_any(out, result, "\t\t");
 }
 
 colour modem_flag_text(payload_cursor& in, text_output& out)
 {
     in.read_u32();
     in.read_u32();
-    out << command_outcome::read(in);
+    write_outcome(out, read_outcome(in), failure_tail);
     return inventory;
 }
 

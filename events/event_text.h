@@ -6,6 +6,7 @@
 
 #include "core/event_output.h"
 #include "core/output_stream.h"
+#include "core/payload_cursor.h"
 #include "core/text_format.h"
 #include "devices/device_types.h"
 
@@ -20,6 +21,19 @@ template <text_sink Out>
 Out& operator<<(Out& out, designation unit)
 {
     return out << device_type_name(unit.type) << "-" << dotted_ipv4{unit.address};
+}
+
+// A designation as payloads carry it: the type byte, then the address.
+inline designation read_designation(payload_cursor& in)
+{
+    const std::uint8_t type = in.read_u8();
+    return {type, in.read_u32()};
+}
+
+// How the XML forms spell a flag.
+constexpr std::string_view true_false(bool flag) noexcept
+{
+    return flag ? "True" : "False";
 }
 
 // `separator` and `text`, only when there is text: the optional tail of a
@@ -39,8 +53,8 @@ void write_result_element(Out& out, wstring_view text, std::string_view indent =
     out << indent << "<result>\"" << text << "\"</result>\n";
 }
 
-// Flags as the configuration texts spell them.
-constexpr std::string_view true_false(bool flag) noexcept
+// How the configuration texts spell a flag.
+constexpr std::string_view lowercase_true_false(bool flag) noexcept
 {
     return flag ? "true" : "false";
 }
@@ -56,4 +70,12 @@ void element_line(ui::event::xml_output& out, std::string_view name, const Value
 {
     out.element(name, value);
     out << "\n";
+}
+
+// The result line only when there is a result text to show.
+template <text_sink Out>
+void write_result_element_if_any(Out& out, wstring_view text, std::string_view indent = "")
+{
+    if (!text.empty())
+        write_result_element(out, text, indent);
 }

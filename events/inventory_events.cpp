@@ -1,98 +1,184 @@
 #include "events/inventory_events.h"
 
 #include "core/text_format.h"
+#include "events/event_text.h"
 
-void unit_destroy_xml(payload_cursor&, ui::event::xml_output&)
+namespace {
+
+using render::colours::inventory;
+
+// "[fcn1l-10.0.0.1] ", the opening of the console's inventory sentences.
+template <text_sink Out>
+void write_bracketed(Out& out, designation unit)
 {
-    throw not_implemented();
+    out << "[" << unit << "] ";
 }
 
-render::colour unit_destroy_text(payload_cursor&, ui::event::text_output&)
+// ---- Units joining or leaving the network (5-byte payloads) ------------------
+
+render::colour write_membership_text(payload_cursor& in, ui::event::text_output& out, std::string_view change)
 {
-    throw not_implemented();
+    const designation unit = read_designation(in);
+    out << "The node '" << unit << "' was " << change << " the network.";
+    return inventory;
 }
 
-void unit_membership_xml(payload_cursor&, ui::event::xml_output&)
+// ---- Units moved between networks: network ID, then the unit ----------------
+
+struct unit_move {
+    std::uint8_t network;
+    designation unit;
+};
+
+unit_move read_unit_move(payload_cursor& in)
 {
-    throw not_implemented();
+    const std::uint8_t network = in.read_u8();
+    return {network, read_designation(in)};
 }
 
-render::colour unit_inserted_text(payload_cursor&, ui::event::text_output&)
+// The two XML forms differ in their comment and in how far their lines are
+// indented.
+struct unit_move_form {
+    std::string_view comment;
+    std::string_view indent;
+};
+
+constexpr unit_move_form unit_removed_form{"<!-- Unit Removed -->\n", "\t\t\t"};
+constexpr unit_move_form unit_inserted_form{"<!-- Unit Inserted -->\n", "\t"};
+
+void write_unit_move_xml(payload_cursor& in, ui::event::text_output& out, const unit_move_form& form)
 {
-    throw not_implemented();
+    out << form.comment;
+    const unit_move move = read_unit_move(in);
+    out << form.indent << "<node>" << move.unit << "</node>\n";
+    out << form.indent << "<transponder>" << decimal(move.network) << "</transponder>\n";
 }
 
-render::colour unit_removed_text(payload_cursor&, ui::event::text_output&)
+} // namespace
+
+void unit_destroy_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    throw not_implemented();
+    out.element("node", read_designation(in));
+    out << "\n";
+    out.element("result", in.read_wstring().view());
+    out << "\n";
 }
 
-void unit_removed_v32_xml(payload_cursor&, ui::event::text_output&)
+render::colour unit_destroy_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    write_bracketed(out, read_designation(in));
+    out << "removal requested from Orrin console";
+    write_if_any(out, ": ", in.read_wstring());
+    return inventory;
 }
 
-render::colour unit_removed_v32_text(payload_cursor&, ui::event::text_output&)
+void unit_membership_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    throw not_implemented();
+    // Character data of whatever element the host has open around it.
+    out << read_designation(in);
 }
 
-void unit_declared_xml(payload_cursor&, ui::event::text_output&)
+render::colour unit_inserted_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    return write_membership_text(in, out, "inserted into");
 }
 
-render::colour unit_declared_text(payload_cursor&, ui::event::text_output&)
+render::colour unit_removed_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    return write_membership_text(in, out, "removed from");
 }
 
-void unit_inserted_v32_xml(payload_cursor&, ui::event::text_output&)
+void unit_removed_v32_xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    write_unit_move_xml(in, out, unit_removed_form);
 }
 
-render::colour unit_inserted_v32_text(payload_cursor&, ui::event::text_output&)
+render::colour unit_removed_v32_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const unit_move move = read_unit_move(in);
+    write_bracketed(out, move.unit);
+    out << "removed from Network " << decimal(move.network);
+    return inventory;
 }
 
-void network_id_inserted_xml(payload_cursor&, ui::event::text_output&)
+void unit_declared_xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    out << "<!-- Declare Modem  -->\n";
+    const designation unit = read_designation(in);
+    out << "\t<type>" << device_type_name(unit.type) << "</type>\n";
+    out << "\t<address>" << dotted_ipv4{unit.address} << "</address>\n";
+    write_result_element_if_any(out, in.read_wstring());
 }
 
-render::colour network_id_inserted_text(payload_cursor&, ui::event::text_output&)
+render::colour unit_declared_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const designation unit = read_designation(in);
+    out << "New unit [" << unit << "] declared from Orrin console";
+    write_if_any(out, ":", in.read_wstring());
+    return inventory;
 }
 
-void network_id_removed_xml(payload_cursor&, ui::event::text_output&)
+void unit_inserted_v32_xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    write_unit_move_xml(in, out, unit_inserted_form);
 }
 
-render::colour network_id_removed_text(payload_cursor&, ui::event::text_output&)
+render::colour unit_inserted_v32_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const unit_move move = read_unit_move(in);
+    write_bracketed(out, move.unit);
+    out << "created in ";
+    // Network 0 is the pool of units that no network has registered yet.
+    if (move.network == 0)
+        out << "Unregistered Modems";
+    else
+        out << "Network " << decimal(move.network);
+    return inventory;
 }
 
-void global_reinitialize_xml(payload_cursor&, ui::event::text_output&)
+// ---- Network-wide notices: a sentence and an optional result text -----------
+
+struct network_notice {
+    std::string_view sentence;
+    render::colour colour;
+    std::string_view comment;
+    bool names_network;   // the payload starts with a network ID
+    std::string_view network_indent;
+};
+
+constexpr network_notice network_id_inserted_notice{
+    "Network ID added to Orrin", inventory, "<!-- New Network ID added to Orrin registry  -->\n", true, "\t"};
+constexpr network_notice network_id_removed_notice{
+    "Network ID removed from Orrin", inventory, "<!-- New Network ID removed Orrin registry  -->\n", true, "\t\t"};
+constexpr network_notice global_reinitialize_notice{
+    "Global Re-Initialize command sent to network", render::colours::command, "<!-- Global Re-initialize  -->\n",
+    false, ""};
+constexpr network_notice scan_network_notice{
+    "Scan Network command sent to network", render::colours::command, "<!-- Scan Network  -->\n", false, ""};
+
+template <const network_notice& Notice>
+void network_notice_renderers<Notice>::xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    out << Notice.comment;
+    if (Notice.names_network) {
+        const std::uint8_t network = in.read_u8();
+        out << Notice.network_indent << "<Network ID>" << decimal(network) << "</Network ID>\n";
+    }
+    write_result_element_if_any(out, in.read_wstring());
 }
 
-render::colour global_reinitialize_text(payload_cursor&, ui::event::text_output&)
+template <const network_notice& Notice>
+render::colour network_notice_renderers<Notice>::text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    // The sentence does not name the network; only the XML form shows it.
+    if (Notice.names_network)
+        in.read_u8();
+    out << Notice.sentence;
+    write_if_any(out, ": ", in.read_wstring());
+    return Notice.colour;
 }
 
-void scan_network_xml(payload_cursor&, ui::event::text_output&)
-{
-    throw not_implemented();
-}
-
-render::colour scan_network_text(payload_cursor&, ui::event::text_output&)
-{
-    throw not_implemented();
-}
+template struct network_notice_renderers<network_id_inserted_notice>;
+template struct network_notice_renderers<network_id_removed_notice>;
+template struct network_notice_renderers<global_reinitialize_notice>;
+template struct network_notice_renderers<scan_network_notice>;

@@ -14,11 +14,18 @@ void unit_declared_xml(payload_cursor& in, ui::event::text_output& out);
 render::colour unit_declared_text(payload_cursor& in, ui::event::text_output& out);
 void unit_inserted_v32_xml(payload_cursor& in, ui::event::text_output& out);
 render::colour unit_inserted_v32_text(payload_cursor& in, ui::event::text_output& out);
-void network_id_inserted_xml(payload_cursor& in, ui::event::text_output& out);
-render::colour network_id_inserted_text(payload_cursor& in, ui::event::text_output& out);
-void network_id_removed_xml(payload_cursor& in, ui::event::text_output& out);
-render::colour network_id_removed_text(payload_cursor& in, ui::event::text_output& out);
-void global_reinitialize_xml(payload_cursor& in, ui::event::text_output& out);
-render::colour global_reinitialize_text(payload_cursor& in, ui::event::text_output& out);
-void scan_network_xml(payload_cursor& in, ui::event::text_output& out);
-render::colour scan_network_text(payload_cursor& in, ui::event::text_output& out);
+
+// The network-wide notices (a network ID added or removed, a global
+// re-initialize, a network scan) differ only in their wording: each is a row,
+// and one pair of bodies renders every row.
+struct network_notice;
+extern const network_notice network_id_inserted_notice;
+extern const network_notice network_id_removed_notice;
+extern const network_notice global_reinitialize_notice;
+extern const network_notice scan_network_notice;
+
+template <const network_notice& Notice>
+struct network_notice_renderers {
+    static void xml(payload_cursor& in, ui::event::text_output& out);
+    static render::colour text(payload_cursor& in, ui::event::text_output& out);
+};

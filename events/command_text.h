@@ -1,0 +1,109 @@
+// Shapes shared by the command result events: how a command ended, which
+// reset it asked for, and whether it went out in blind mode.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "core/output_stream.h"
+#include "core/payload_cursor.h"
+#include "core/text_format.h"
+#include "events/event_text.h"
+
+// The name a coded field selects from a table counted from zero; null for a
+// code outside the table, negative codes included.
+template <std::size_t N, class Code>
+constexpr const std::string_view* coded_name(const std::string_view (&names)[N], Code code) noexcept
+{
+    return std::cmp_greater_equal(code, 0) && std::cmp_less(code, N) ? &names[static_cast<std::size_t>(code)]
+                                                                       : nullptr;
+}
+
+// ---- Result codes ----------------------------------------------------------
+
+// A command's signed result code; a failed command (negative code) is
+// followed by the error text that explains it.
+template <class Text>
+struct command_result {
+    std::int32_t code = 0;
+    Text error{};
+
+    bool failed() const noexcept { return code < 0; }
+};
+
+// Reads the code and, after a failure, the error text with `ReadText`: most
+// events carry it in UTF-16, unit registration in 8-bit characters.
+template <auto ReadText = &payload_cursor::read_wstring>
+auto read_command_result(payload_cursor& in)
+{
+    using text = std::remove_cvref_t<std::invoke_result_t<decltype(ReadText), payload_cursor&>>;
+    command_result<text> result{in.read_i32()};
+    if (result.failed())
+        result.error = std::invoke(ReadText, in);
+    return result;
+}
+
+// How one form words the outcome: a fixed success text, or the error text
+// between two pieces.
+struct outcome_wording {
+    std::string_view succeeded;
+    std::string_view failed_open;
+    std::string_view failed_close;
+};
+
+template <text_sink Out, class Text>
+void write_outcome(Out& out, const command_result<Text>& result, const outcome_wording& wording)
+{
+    if (result.failed())
+        out << wording.failed_open << result.error << wording.failed_close;
+    else
+        out << wording.succeeded;
+}
+
+// The opening and closing of the XML result element of a failed command;
+// the error text stands quoted between them.
+inline constexpr std::string_view failed_result_element_open = "\t\t<result code='failed'>\"";
+inline constexpr std::string_view failed_result_element_close = "\"</result>\n";
+
+// ---- Reset types -----------------------------------------------------------
+
+inline constexpr std::string_view reset_type_names[] = {"Hard", "Soft", "Firm"};
+
+// How one form words a reset type: a known type as its name followed by
+// `suffix`; any other as its code in decimal between two pieces.
+struct reset_wording {
+    std::string_view suffix;
+    std::string_view unknown_open;
+    std::string_view unknown_close;
+};
+
+struct reset_type {
+    std::int64_t code;
+    const reset_wording& wording;
+};
+
+template <text_sink Out>
+Out& operator<<(Out& out, const reset_type& type)
+{
+    if (const std::string_view* name = coded_name(reset_type_names, type.code))
+        return out << *name << type.wording.suffix;
+    return out << type.wording.unknown_open << decimal(type.code) << type.wording.unknown_close;
+}
+
+// ---- Blind mode --------------------------------------------------------------
+
+// A u32 flag: any non-zero value means the command went out in blind mode.
+inline bool read_blind_mode(payload_cursor& in)
+{
+    return in.read_u32() != 0;
+}
+
+template <text_sink Out>
+void write_blind_mode_element(Out& out, bool blind)
+{
+    out << "\t\t<blind-mode>" << true_false(blind) << "</blind-mode>\n";
+}

@@ -1,0 +1,29 @@
+// The module as a host sees it: korps.dll loaded with LoadLibrary and its
+// exports resolved by name.
+#pragma once
+
+#include <string>
+
+#include "include/korps/korps.h"
+
+class korps_module {
+public:
+    static korps_module& get();   // loaded once for the whole test run
+
+    template <class Function>
+    Function export_named(const char* name) const
+    {
+        return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module_, name)));
+    }
+
+    UI_EnumEVENTUI_t UI_EnumEVENTUI;
+    HRESULT(__stdcall* DllCanUnloadNow)();
+
+private:
+    korps_module();
+    HMODULE module_;
+};
+
+// The calling thread's error object description, taken from the thread;
+// empty when there is none.
+std::string take_error_description();

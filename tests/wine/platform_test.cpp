@@ -1,0 +1,55 @@
+// The Windows side of the platform seam, with the system's own code pages,
+// message table and error objects.
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "core/boundary.h"
+#include "core/errors.h"
+#include "core/event_output.h"
+#include "tests/wine/module_fixture.h"
+
+namespace {
+
+TEST(Platform, ComErrorNamesTheSystemsMessage)
+{
+    EXPECT_STRNE(com::error(E_FAIL).what(), "");
+    EXPECT_STRNE(com::error(E_FAIL).what(), "unknown error (0x80004005) occurred");
+    EXPECT_STREQ(com::error(static_cast<HRESULT>(0x80041234)).what(), "unknown error (0x80041234) occurred");
+}
+
+TEST(Platform, ErrorObjectReachesTheThread)
+{
+    EXPECT_EQ(guarded([]() -> HRESULT { throw io::underflow(); }), DISP_E_EXCEPTION);
+    EXPECT_EQ(take_error_description(), "an underflow occured");
+
+    // A carried error object travels unchanged.
+    ICreateErrorInfo* creator = nullptr;
+    ASSERT_EQ(CreateErrorInfo(&creator), S_OK);
+    creator->SetDescription(const_cast<LPOLESTR>(L"stream broke"));
+    IErrorInfo* info = nullptr;
+    creator->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(&info));
+    creator->Release();
+    EXPECT_EQ(guarded([&]() -> HRESULT { throw com::error(STG_E_INCOMPLETE, info); }), STG_E_INCOMPLETE);
+    info->Release();
+    EXPECT_EQ(take_error_description(), "stream broke");
+}
+
+TEST(Platform, NarrowTextIsWidenedWithTheAnsiCodePage)
+{
+    std::array<wchar_t, 8> buffer{};
+    ui::event::text_output out(buffer.data(), buffer.size());
+    out << "a\xE9";
+    wchar_t expected[2];
+    MultiByteToWideChar(CP_ACP, 0, "a\xE9", 2, expected, 2);
+    EXPECT_EQ(buffer[0], L'a');
+    EXPECT_EQ(buffer[1], expected[1]);
+}
+
+TEST(Platform, DescriptionsAreUtf8)
+{
+    EXPECT_EQ(guarded([]() -> HRESULT { throw std::runtime_error("caf\xC3\xA9"); }), DISP_E_EXCEPTION);
+    EXPECT_EQ(take_error_description(), "caf\xC3\xA9");
+}
+
+} // namespace
