@@ -6,6 +6,7 @@
 
 #include "core/event_types.h"
 #include "core/guid.h"
+#include "events/alarm_type_map.h"
 #include "tools/sample_file.h"
 
 namespace {
@@ -52,6 +53,7 @@ BENCHMARK(find_event_type);
 
 int main(int argc, char** argv)
 {
+    samples::register_alarm_types(&RegisterAlarmTypeMap);
     static const auto all = samples::load_folder(KORPS_SAMPLES_DIR);
     for (const samples::sample& s : all) {
         const event_type_row* row = find_row(s.event);

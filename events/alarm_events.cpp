@@ -1,33 +1,199 @@
 #include "events/alarm_events.h"
 
+#include <cstring>
+#include <span>
+#include <string_view>
+
 #include "core/text_format.h"
+#include "events/alarm_layouts.h"
+#include "events/alarm_status.h"
+#include "events/alarm_type_map.h"
+#include "events/event_text.h"
+#include "events/unit_alarm_record.h"
+#include "events/unit_status.h"
 
-void alarm_status_changed_xml(payload_cursor&, ui::event::xml_output&)
+namespace {
+
+// An alarm's move between statuses: the payload holds the old and the new
+// status byte, then the alarm's identifier.
+struct alarm_status_change {
+    const char* alarm;
+    const alarm_status_row& from;
+    const alarm_status_row& to;
+};
+
+alarm_status_change read_alarm_status_change(payload_cursor& in)
 {
-    throw not_implemented();
+    const std::uint8_t from = in.read_u8();
+    const std::uint8_t to = in.read_u8();
+    GUID id;
+    std::memcpy(&id, in.take(sizeof id).data(), sizeof id);
+    return {alarm_types::name_of(id), alarm_status(from), alarm_status(to)};
 }
 
-render::colour alarm_status_changed_text(payload_cursor&, ui::event::text_output&)
+// Hands every changed bit of the record's named alarms to `out`, group by
+// group, then slot by slot for each demodulator whose bytes changed at all.
+template <class Listing>
+void list_changed_alarms(const unit_alarm_record& record, const alarm_layout& layout, Listing& out)
 {
-    throw not_implemented();
+    const auto list_group = [&](std::span<const alarm_bit> bits, std::uint32_t offset) {
+        for (const alarm_bit& b : bits)
+            if (record.changed(offset, b.bit))
+                out.alarm(b.name, record.raised(offset, b.bit));
+    };
+    for (const alarm_group& group : layout.groups)
+        list_group(group.bits, group.offset);
+    for (std::uint32_t slot = 0; slot < layout.demodulators; ++slot) {
+        const std::uint32_t offset = alarm_layout::slot_offset(slot);
+        if (!record.bytes_changed(offset, alarm_layout::slot_bytes))
+            continue;
+        out.open_device(slot + 1);
+        list_group(layout.demodulator, offset);
+        out.close_device();
+    }
 }
 
-void unit_status_xml(payload_cursor&, ui::event::text_output&)
+// The one-line form: "A alarmed, B alarm cleared, Device 2: C alarmed".
+class alarm_sentence {
+public:
+    explicit alarm_sentence(ui::event::text_output& out) noexcept : out_(out) {}
+
+    void state_change(render::alarm_state from, render::alarm_state to)
+    {
+        out_ << "Alarm state changed from '" << render::alarm_state_name(from) << "' to '"
+             << render::alarm_state_name(to) << "'";
+        if (to != render::alarm_state::ok)
+            ++alarms_;
+        continued_ = true;
+    }
+
+    void alarm(const char* name, bool raised)
+    {
+        separate();
+        out_ << name << (raised ? " alarmed" : " alarm cleared");
+        if (raised)
+            ++alarms_;
+        continued_ = true;
+    }
+
+    // A slot's alarms follow its number directly, without a comma.
+    void open_device(std::uint32_t number)
+    {
+        separate();
+        out_ << "Device " << decimal(number) << ": ";
+        continued_ = false;
+    }
+
+    void close_device() noexcept {}
+
+    bool covers(const alarm_layout&) const noexcept { return true; }
+
+    render::colour colour() const noexcept { return alarms_ == 0 ? render::colours::green : render::colours::red; }
+
+private:
+    void separate()
+    {
+        if (continued_)
+            out_ << ", ";
+    }
+
+    ui::event::text_output& out_;
+    bool continued_ = false;
+    unsigned alarms_ = 0;
+};
+
+// The XML form: one element a line, slots as <device address="n"> around
+// their alarms.
+class alarm_elements {
+public:
+    explicit alarm_elements(ui::event::xml_output& out) noexcept : out_(out) {}
+
+    void state_change(render::alarm_state from, render::alarm_state to)
+    {
+        out_.open_element("alarm-state");
+        out_ << "\n";
+        write_element_line(out_, "old", render::alarm_state_name(from));
+        write_element_line(out_, "new", render::alarm_state_name(to));
+        out_.close_element();
+        out_ << "\n";
+    }
+
+    void alarm(const char* name, bool raised) { write_element_line(out_, raised ? "raised" : "cleared", name); }
+
+    void open_device(std::uint32_t number)
+    {
+        out_.open_element("device");
+        out_.attribute("address", decimal(number));
+        out_ << "\n";
+    }
+
+    void close_device()
+    {
+        out_.close_element();
+        out_ << "\n";
+    }
+
+    bool covers(const alarm_layout& layout) const noexcept { return layout.in_xml; }
+
+private:
+    ui::event::xml_output& out_;
+};
+
+// The state change, if any, then the named bits that changed.
+template <class Listing>
+void describe_unit_alarms(payload_cursor& in, Listing& listing)
 {
-    throw not_implemented();
+    const unit_alarm_record record = unit_alarm_record::read(in);
+    if (record.old_state != record.new_state)
+        listing.state_change(record.old_state, record.new_state);
+    const alarm_layout* layout = find_alarm_layout(record.device_type);
+    if (layout && listing.covers(*layout))
+        list_changed_alarms(record, *layout, listing);
 }
 
-render::colour unit_status_text(payload_cursor&, ui::event::text_output&)
+} // namespace
+
+void alarm_status_changed_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    throw not_implemented();
+    const alarm_status_change change = read_alarm_status_change(in);
+    write_element_line(out, "Identifier", change.alarm);
+    write_element_line(out, "OldState", change.from.name);
+    write_element_line(out, "NewState", change.to.name);
 }
 
-void unit_alarm_state_changed_xml(payload_cursor&, ui::event::xml_output&)
+render::colour alarm_status_changed_text(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const alarm_status_change change = read_alarm_status_change(in);
+    out << change.alarm << " changed from " << change.from.name << " to " << change.to.name;
+    return change.to.colour;
 }
 
-render::colour unit_alarm_state_changed_text(payload_cursor&, ui::event::text_output&)
+void unit_status_xml(payload_cursor& in, ui::event::text_output& out)
 {
-    throw not_implemented();
+    const std::int32_t from = in.read_i32();
+    const std::int32_t to = in.read_i32();
+    out << "\t\t<!-- Status Change -->\n"
+        << "\t\t<old-status>" << decimal(from) << "</old-status>\n"
+        << "\t\t<new-status>" << decimal(to) << "</new-status>";
+}
+
+render::colour unit_status_text(payload_cursor& in, ui::event::text_output& out)
+{
+    const unit_status from{in.read_i32()};
+    const unit_status to{in.read_i32()};
+    out << "Status changed from " << from << " to " << to << ".";
+    return colour_of(to);
+}
+
+void unit_alarm_state_changed_xml(payload_cursor& in, ui::event::xml_output& out)
+{
+    alarm_elements listing(out);
+    describe_unit_alarms(in, listing);
+}
+
+render::colour unit_alarm_state_changed_text(payload_cursor& in, ui::event::text_output& out)
+{
+    alarm_sentence listing(out);
+    describe_unit_alarms(in, listing);
+    return listing.colour();
 }

@@ -67,11 +67,9 @@ void write_utf16le(ui::event::text_output& out, std::span<const std::uint8_t> by
 void unit_registration_xml(payload_cursor& in, ui::event::xml_output& out)
 {
     const std::string_view source = registration_source(in.read_u8());
-    out.element("source", source);
-    out << "\n";
+    write_element_line(out, "source", source);
     const auto result = read_command_result<&payload_cursor::read_string>(in);
-    out.element("result", result.failed() ? result.error : std::string_view("succeeded"));
-    out << "\n";
+    write_element_line(out, "result", result.failed() ? result.error : std::string_view("succeeded"));
 }
 
 render::colour unit_registration_text(payload_cursor& in, ui::event::text_output& out)

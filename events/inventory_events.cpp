@@ -58,10 +58,8 @@ void write_unit_move_xml(payload_cursor& in, ui::event::text_output& out, const 
 
 void unit_destroy_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    out.element("node", read_designation(in));
-    out << "\n";
-    out.element("result", in.read_wstring().view());
-    out << "\n";
+    write_element_line(out, "node", read_designation(in));
+    write_element_line(out, "result", in.read_wstring().view());
 }
 
 render::colour unit_destroy_text(payload_cursor& in, ui::event::text_output& out)

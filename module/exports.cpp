@@ -1,14 +1,21 @@
 // The module's exported entry points. None lets an exception out.
+#include <cstddef>
 #include <type_traits>
 
 #include "core/enum_eventui.h"
 #include "core/event_types.h"
+#include "events/alarm_type_map.h"
 #include "module/module_lock.h"
 
 static_assert(std::is_same_v<::EventXmlRenderer, decltype(EVENTUI::xmlRenderer)>,
               "the core's renderer shape is the host's");
 static_assert(std::is_same_v<::EventTextRenderer, decltype(EVENTUI::textRenderer)>,
               "the core's renderer shape is the host's");
+// RegisterAlarmTypeMap is defined with the core's record; hosts pass ALARMTYPE.
+static_assert(sizeof(ALARMTYPE) == sizeof(alarm_type_record) &&
+                  offsetof(ALARMTYPE, id) == offsetof(alarm_type_record, id) &&
+                  offsetof(ALARMTYPE, name) == offsetof(alarm_type_record, name),
+              "the core's alarm type record is the host's");
 
 extern "C" {
 

@@ -118,6 +118,15 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "korps-host: %s exports no UI_EnumEVENTUI\n", path);
         return 1;
     }
+    // The console names its alarm types before it renders anything; the
+    // event log here is the sample files, so it names theirs.
+    const auto register_alarm_types = reinterpret_cast<RegisterAlarmTypeMap_t>(
+        reinterpret_cast<void*>(GetProcAddress(module, "RegisterAlarmTypeMap")));
+    if (!register_alarm_types) {
+        std::fprintf(stderr, "korps-host: %s exports no RegisterAlarmTypeMap\n", path);
+        return 1;
+    }
+    samples::register_alarm_types(register_alarm_types);
     const event_map events = enumerate(enumerate_types, true);
 
     int status = events.size() == 40 ? 0 : 1;

@@ -2,6 +2,7 @@
 // samples/*.samples (the format is described in docs/samples.md).
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -9,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "core/guid.h"
 #include "core/win_types.h"
 
 namespace samples {
@@ -44,5 +46,29 @@ std::vector<sample> load_folder(const std::filesystem::path& folder);
 // The quoted form that the files use for a text: C escapes for control
 // characters, quotes and backslashes, \uXXXX beyond ASCII.
 std::string quote(const std::u16string& text);
+
+// The alarm types that samples may name: "Alarm Status Changed" refuses any
+// identifier the host has not registered.
+struct alarm_type {
+    GUID id;
+    const char* name;
+};
+
+inline constexpr alarm_type alarm_types[] = {
+    {make_guid("00000000-0000-0000-0000-000000000001"), "Link"},
+};
+
+// Registers alarm_types, as a host does before it renders anything, through
+// `register_map`: the module's RegisterAlarmTypeMap, whichever side of the
+// module boundary it is called from. The module keeps the names, which are
+// static, not the records.
+template <class Record>
+int register_alarm_types(int(KORPS_CDECL* register_map)(int, const Record*))
+{
+    Record records[std::size(alarm_types)];
+    for (std::size_t i = 0; i < std::size(alarm_types); ++i)
+        records[i] = {alarm_types[i].id, alarm_types[i].name};
+    return register_map(static_cast<int>(std::size(records)), records);
+}
 
 } // namespace samples

@@ -78,6 +78,10 @@ typedef struct ALARMTYPE {
     const char* name;
 } ALARMTYPE;
 
+#if defined(__cplusplus) && !defined(_WIN64)
+static_assert(sizeof(ALARMTYPE) == 20, "ALARMTYPE crosses the module boundary as 20 bytes");
+#endif
+
 /* Export signatures, for GetProcAddress. */
 typedef HRESULT(__stdcall* UI_EnumEVENTUI_t)(IEnumEVENTUI** ppEnum);
 typedef int(__cdecl* RegisterAlarmTypeMap_t)(int count, const ALARMTYPE* records);

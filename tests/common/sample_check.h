@@ -30,11 +30,13 @@ struct renderers {
     EventTextRenderer text = nullptr;
 };
 
-// Each test program supplies these two: where its renderers come from, and
-// how it reads the thread's error object (its description, taken from the
-// thread; empty when there is none).
+// Each test program supplies these three: where its renderers come from, how
+// it reads the thread's error object (its description, taken from the
+// thread; empty when there is none), and how it registers the samples' alarm
+// types with the module.
 renderers find_renderers(const GUID& id);
 std::string take_error_description();
+void register_alarm_types();
 
 struct outcome {
     HRESULT result;

@@ -6,6 +6,14 @@
 
 namespace {
 
+// The samples' alarm types, registered before any sample is rendered.
+class registered_alarm_types : public testing::Environment {
+public:
+    void SetUp() override { sample_check::register_alarm_types(); }
+};
+
+testing::Environment* const alarm_types_environment = testing::AddGlobalTestEnvironment(new registered_alarm_types);
+
 class Samples : public testing::TestWithParam<samples::sample> {};
 
 TEST_P(Samples, RenderExactlyAndWithinEveryBuffer)

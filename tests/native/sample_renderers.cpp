@@ -1,6 +1,7 @@
 // The native tests take the renderers straight from the event type table.
 #include "core/event_types.h"
 #include "core/guid.h"
+#include "events/alarm_type_map.h"
 #include "tests/common/sample_check.h"
 #include "tests/native/test_text.h"
 
@@ -9,6 +10,11 @@ namespace sample_check {
 std::string take_error_description()
 {
     return ::take_error_description();
+}
+
+void register_alarm_types()
+{
+    samples::register_alarm_types(&RegisterAlarmTypeMap);
 }
 
 renderers find_renderers(const GUID& id)

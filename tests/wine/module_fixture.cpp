@@ -15,6 +15,7 @@ korps_module::korps_module() : module_(LoadLibraryW(L"korps.dll"))
     if (!module_)
         throw std::runtime_error("korps.dll did not load");
     UI_EnumEVENTUI = export_named<UI_EnumEVENTUI_t>("UI_EnumEVENTUI");
+    RegisterAlarmTypeMap = export_named<RegisterAlarmTypeMap_t>("RegisterAlarmTypeMap");
     DllCanUnloadNow = export_named<HRESULT(__stdcall*)()>("DllCanUnloadNow");
 }
 

@@ -17,6 +17,7 @@ public:
     }
 
     UI_EnumEVENTUI_t UI_EnumEVENTUI;
+    RegisterAlarmTypeMap_t RegisterAlarmTypeMap;
     HRESULT(__stdcall* DllCanUnloadNow)();
 
 private:

@@ -12,6 +12,11 @@ std::string take_error_description()
     return ::take_error_description();
 }
 
+void register_alarm_types()
+{
+    samples::register_alarm_types(korps_module::get().RegisterAlarmTypeMap);
+}
+
 renderers find_renderers(const GUID& id)
 {
     IEnumEVENTUI* types = nullptr;

@@ -1,0 +1,31 @@
+// The status of a named alarm, as "Alarm Status Changed" reports it, with
+// the colour in which a change into that status is shown.
+#pragma once
+
+#include <cstdint>
+
+#include "core/renderer.h"
+
+struct alarm_status_row {
+    std::uint8_t value;
+    const char* name;
+    render::colour colour;
+};
+
+inline constexpr alarm_status_row alarm_statuses[] = {
+    {0, "Unknown", render::colours::grey},
+    {1, "OK", render::colours::green},
+    {2, "Latched", render::colours::yellow},
+    {3, "Alarmed", render::colours::red},
+};
+
+// What a status byte outside the table shows as.
+inline constexpr alarm_status_row bad_alarm_status = {0, "<bad value>", render::colours::grey};
+
+constexpr const alarm_status_row& alarm_status(std::uint8_t value) noexcept
+{
+    for (const alarm_status_row& row : alarm_statuses)
+        if (row.value == value)
+            return row;
+    return bad_alarm_status;
+}

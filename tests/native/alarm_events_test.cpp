@@ -1,0 +1,179 @@
+// Unit alarm state changes bit by bit: which mask bit names which alarm on
+// which unit type, and the shapes that the sample files show only once.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "events/alarm_events.h"
+#include "events/alarm_layouts.h"
+#include "events/alarm_state.h"
+#include "events/unit_status.h"
+#include "tests/native/test_text.h"
+
+namespace {
+
+struct rendered {
+    HRESULT result;
+    std::string text;
+    std::uint32_t colour;
+};
+
+std::vector<std::uint8_t> alarm_payload(std::uint8_t type, const std::vector<std::uint8_t>& old_mask,
+                                        const std::vector<std::uint8_t>& new_mask)
+{
+    std::vector<std::uint8_t> p = {type, 0, 0, 0, 0, 0, 0, 0, 0, static_cast<std::uint8_t>(old_mask.size()), 0, 0, 0};
+    p.insert(p.end(), old_mask.begin(), old_mask.end());
+    p.insert(p.end(), new_mask.begin(), new_mask.end());
+    return p;
+}
+
+rendered text_of(const std::vector<std::uint8_t>& payload)
+{
+    wchar buffer[2048];
+    std::uint32_t colour = 0;
+    const HRESULT result = render::text_renderer<unit_alarm_state_changed_text>(
+        nullptr, static_cast<std::uint32_t>(payload.size()), payload.data(), buffer, 2048, &colour);
+    return {result, utf8(buffer), colour};
+}
+
+std::string xml_of(const std::vector<std::uint8_t>& payload)
+{
+    wchar buffer[2048];
+    const HRESULT result = render::xml_renderer<unit_alarm_state_changed_xml>(
+        nullptr, static_cast<std::uint32_t>(payload.size()), payload.data(), buffer, 2048);
+    EXPECT_EQ(result, S_OK);
+    return utf8(buffer);
+}
+
+// One bit raised in an otherwise clear ten-byte mask.
+std::vector<std::uint8_t> one_bit(std::size_t byte, int bit)
+{
+    std::vector<std::uint8_t> mask(10, 0);
+    mask[byte] = static_cast<std::uint8_t>(1 << bit);
+    return mask;
+}
+
+TEST(UnitAlarmBits, EachBitNamesItsAlarm)
+{
+    const struct {
+        std::uint8_t type;
+        std::size_t byte;
+        int bit;
+        const char* text;   // what raising the bit reads as
+    } cases[] = {
+        {0x34, 0, 3, "+23V alarmed"},
+        {0x35, 3, 2, "G.703 Bipolar Violation alarmed"},
+        {0x34, 5, 1, "Voltage alarmed"},
+        {0x34, 6, 0, ""},   // past the receive group
+        {0x3A, 2, 4, "FPGA DCM Not Locked alarmed"},
+        {0x3A, 4, 5, "Intf Teres Clock No Activity alarmed"},
+        {0x3A, 9, 6, "Power > 20dBm alarmed"},
+        {0x58, 0, 3, ""},   // the packet modem has no +23V rail
+        {0x58, 3, 4, "Tx PaP Ethernet alarmed"},
+        {0x58, 4, 2, ""},
+        {0x58, 5, 0, "LNB Current alarmed"},
+        {0x37, 1, 1, "EEPROM Checksum alarmed"},
+        {0x37, 2, 2, "Device 1: "},   // a slot bit without a name still names the slot
+        {0x37, 6, 4, "Device 3: Rx Buffer Underflow alarmed"},
+        {0x37, 9, 1, "Device 4: LNB Voltage alarmed"},
+        {0x38, 6, 0, ""},   // this chassis has two slots
+        {0x38, 5, 0, "Device 2: LNB Current alarmed"},
+        {0x5E, 0, 5, ""},
+        {0x5E, 0, 7, "Rx 2nd LO synth alarmed"},
+        {0x5E, 8, 7, "Device 4: AIS alarmed"},
+        {0x36, 0, 0, ""},
+    };
+    for (const auto& c : cases) {
+        const rendered r = text_of(alarm_payload(c.type, std::vector<std::uint8_t>(10, 0), one_bit(c.byte, c.bit)));
+        EXPECT_EQ(r.result, S_OK);
+        EXPECT_EQ(r.text, c.text) << "type " << int(c.type) << ", byte " << c.byte << ", bit " << c.bit;
+    }
+}
+
+// Raising any named bit alone lists exactly that alarm, red; clearing it
+// alone lists it as cleared, green; the XML names it as raised.
+TEST(UnitAlarmBits, EveryNamedBitRaisesAndClears)
+{
+    for (const alarm_layout& layout : alarm_layouts::rows) {
+        const auto check = [&](std::span<const alarm_bit> bits, std::uint32_t offset, const std::string& prefix) {
+            for (const alarm_bit& b : bits) {
+                const auto set = one_bit(offset + b.bit / 8, b.bit % 8);
+                const std::vector<std::uint8_t> clear(10, 0);
+                const std::string at = std::string(b.name) + " of type " + std::to_string(layout.device_type);
+
+                const rendered raised = text_of(alarm_payload(layout.device_type, clear, set));
+                EXPECT_EQ(raised.text, prefix + b.name + " alarmed") << at;
+                EXPECT_EQ(raised.colour, render::colours::red) << at;
+                const rendered cleared = text_of(alarm_payload(layout.device_type, set, clear));
+                EXPECT_EQ(cleared.text, prefix + b.name + " alarm cleared") << at;
+                EXPECT_EQ(cleared.colour, render::colours::green) << at;
+                if (layout.in_xml) {
+                    const std::string xml = xml_of(alarm_payload(layout.device_type, clear, set));
+                    EXPECT_NE(xml.find(std::string("<raised>") + b.name + "</raised>\n"), std::string::npos) << at;
+                }
+            }
+        };
+        for (const alarm_group& group : layout.groups)
+            check(group.bits, group.offset, "");
+        for (std::uint32_t slot = 0; slot < layout.demodulators; ++slot)
+            check(layout.demodulator, alarm_layout::slot_offset(slot), "Device " + std::to_string(slot + 1) + ": ");
+    }
+}
+
+// The text lists the receive-only chassis' alarms; its XML form never has.
+TEST(UnitAlarmBits, ReceiverChassisXmlListsNoBits)
+{
+    std::vector<std::uint8_t> all(10, 0xFF);
+    const auto payload = alarm_payload(0x5E, std::vector<std::uint8_t>(10, 0), all);
+    EXPECT_NE(text_of(payload).text, "");
+    EXPECT_EQ(xml_of(payload), "");
+}
+
+TEST(UnitAlarmRecord, RefusesMasksLongerThanItsBuffers)
+{
+    for (const std::uint32_t length : {65u, 0x100u, 0xFFFFFFFFu}) {
+        std::vector<std::uint8_t> payload = {0x34, 0, 0, 0, 0, 0, 0, 0, 0};
+        for (int i = 0; i < 4; ++i)
+            payload.push_back(static_cast<std::uint8_t>(length >> 8 * i));
+        payload.resize(payload.size() + 2 * 0x100, 0);
+        payload_cursor in(payload.data(), payload.size());
+        EXPECT_THROW(unit_alarm_record::read(in), io::underflow) << length;
+    }
+}
+
+TEST(AlarmState, IndexingPastTheTableIsAnInvalidOption)
+{
+    EXPECT_STREQ(render::alarm_state_option(2).narrow, "Reinitalize");
+    try {
+        render::alarm_state_option(4);
+        FAIL() << "no error";
+    } catch (const data::invalid_option& e) {
+        EXPECT_STREQ(e.what(), "invalid option: render::alarm_state");
+    }
+}
+
+TEST(UnitStatus, NamesAndColours)
+{
+    const struct {
+        std::int32_t value;
+        const char* name;
+        render::colour colour;
+    } cases[] = {
+        {INT_MIN, "Disconnected", render::colours::grey}, {-3, "Disconnected", render::colours::grey},
+        {-2, "Disabled", render::colours::grey},          {-1, "Disconnected", render::colours::grey},
+        {0, "OK", render::colours::green},                {1, "Alarmed", render::colours::red},
+        {2, "2 Alarms", render::colours::red},            {INT_MAX, "2147483647 Alarms", render::colours::red},
+    };
+    for (const auto& c : cases) {
+        wchar buffer[64];
+        ui::event::text_output out(buffer, 64);
+        out << unit_status{c.value};
+        EXPECT_EQ(utf8(buffer), c.name) << c.value;
+        EXPECT_EQ(colour_of(unit_status{c.value}), c.colour) << c.value;
+    }
+}
+
+} // namespace
