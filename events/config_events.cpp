@@ -44,14 +44,14 @@ colour end_with_outcome(text_output& out, const outcome& result, colour success)
 // The `Result` element of the XML stream forms: "Ok", or the error text.
 void write_result_line(xml_output& out, const outcome& result)
 {
-    element_line(out, "Result", result.failed() ? result.error.view() : wstring_view(WSTR("Ok")));
+    write_element_line(out, "Result", result.failed() ? result.error.view() : wstring_view(WSTR("Ok")));
 }
 
 // The upgrades' `Failure` element, only after a failure.
 void write_failure_line(xml_output& out, const outcome& result)
 {
     if (result.failed())
-        element_line(out, "Failure", result.error.view());
+        write_element_line(out, "Failure", result.error.view());
 }
 
 // --- Unit property switches ------------------------------------------------
@@ -96,8 +96,8 @@ struct upgrade {
 
     void write_xml(xml_output& out) const
     {
-        element_line(out, "Image", image.view());
-        element_line(out, "Rate", rate);
+        write_element_line(out, "Image", image.view());
+        write_element_line(out, "Rate", rate);
     }
 };
 
@@ -197,9 +197,9 @@ void corvane_unit_properties_saved_xml(payload_cursor& in, xml_output& out)
     // The result text is optional here: the switches alone make a complete event.
     const payload_text result = in.remaining() > 0 ? in.read_wstring() : payload_text{};
     for (std::size_t i = 0; i < unit_switches.size(); ++i)
-        element_line(out, unit_switches[i].element, lowercase_true_false(on[i]));
+        write_element_line(out, unit_switches[i].element, lowercase_true_false(on[i]));
     if (!result.empty())
-        element_line(out, "result", result.view());
+        write_element_line(out, "result", result.view());
 }
 
 colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
@@ -216,11 +216,11 @@ colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
 void unit_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
     const unit_properties p = unit_properties::read(in);
-    element_line(out, "IpAddress", dotted_ipv4{p.address});
-    element_line(out, "FrontPanelLockout", lowercase_true_false(p.lockout));
-    element_line(out, "UnlockAlarmMask", lowercase_true_false(p.unlock_mask));
-    element_line(out, "EnableHeartbeat", lowercase_true_false(p.heartbeat));
-    element_line(out, "AutoHomeStateTimeout", decimal(p.home_state_timeout));
+    write_element_line(out, "IpAddress", dotted_ipv4{p.address});
+    write_element_line(out, "FrontPanelLockout", lowercase_true_false(p.lockout));
+    write_element_line(out, "UnlockAlarmMask", lowercase_true_false(p.unlock_mask));
+    write_element_line(out, "EnableHeartbeat", lowercase_true_false(p.heartbeat));
+    write_element_line(out, "AutoHomeStateTimeout", decimal(p.home_state_timeout));
     write_result_line(out, p.result);
 }
 
@@ -238,8 +238,8 @@ colour unit_properties_saved_text(payload_cursor& in, text_output& out)
 void gull_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
     const gull_properties p = gull_properties::read(in);
-    element_line(out, "IpAddress", dotted_ipv4{p.address});
-    element_line(out, "Name", p.name.view());
+    write_element_line(out, "IpAddress", dotted_ipv4{p.address});
+    write_element_line(out, "Name", p.name.view());
     write_result_line(out, p.result);
 }
 
@@ -254,7 +254,7 @@ colour gull_properties_saved_text(payload_cursor& in, text_output& out)
 
 void register_network_id_xml(payload_cursor& in, xml_output& out)
 {
-    element_line(out, "network-id", decimal(in.read_u8()));
+    write_element_line(out, "network-id", decimal(in.read_u8()));
 }
 
 colour register_network_id_text(payload_cursor& in, text_output& out)
@@ -268,7 +268,7 @@ colour register_network_id_text(payload_cursor& in, text_output& out)
 
 void paramfile_write_xml(payload_cursor& in, xml_output& out)
 {
-    element_line(out, "save", lowercase_true_false(in.read_u8() != 0));
+    write_element_line(out, "save", lowercase_true_false(in.read_u8() != 0));
 }
 
 colour paramfile_write_text(payload_cursor& in, text_output& out)
@@ -284,7 +284,7 @@ colour paramfile_write_text(payload_cursor& in, text_output& out)
 
 void paramfile_autosave_xml(payload_cursor& in, xml_output& out)
 {
-    element_line(out, "result", std::string_view(in.read_u8() != 0 ? "failed" : "succeeded"));
+    write_element_line(out, "result", std::string_view(in.read_u8() != 0 ? "failed" : "succeeded"));
 }
 
 colour paramfile_autosave_text(payload_cursor& in, text_output& out)
@@ -319,7 +319,7 @@ void multiple_unit_upgrade_xml(payload_cursor& in, xml_output& out)
     const std::uint32_t units = in.read_u32();
     const outcome result = read_outcome(in);
     u.write_xml(out);
-    element_line(out, "Units", decimal(units));
+    write_element_line(out, "Units", decimal(units));
     write_failure_line(out, result);
 }
 
@@ -339,17 +339,17 @@ colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
 void heartbeat_toggled_xml(payload_cursor& in, xml_output& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
-    element_line(out, "Enabled", lowercase_true_false(h.enabled));
-    element_line(out, "Timeout", decimal(h.timeout));
-    element_line(out, "Interval", decimal(h.interval));
+    write_element_line(out, "Enabled", lowercase_true_false(h.enabled));
+    write_element_line(out, "Timeout", decimal(h.timeout));
+    write_element_line(out, "Interval", decimal(h.interval));
     write_result_line(out, h.result);
 }
 
 colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
-    out << "Unit Heartbeat Toggled - Enabled:" << lowercase_true_false(h.enabled) << ", Timeout: " << decimal(h.timeout)
-        << "ms, Interval: " << decimal(h.interval) << "ms";
+    out << "Unit Heartbeat Toggled - Enabled:" << lowercase_true_false(h.enabled)
+        << ", Timeout: " << decimal(h.timeout) << "ms, Interval: " << decimal(h.interval) << "ms";
     return end_with_outcome(out, h.result, command);
 }
 
@@ -358,7 +358,7 @@ colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 void home_state_timeout_changed_xml(payload_cursor& in, xml_output& out)
 {
     const home_state_change h = home_state_change::read(in);
-    element_line(out, "Interval", decimal(h.interval));
+    write_element_line(out, "Interval", decimal(h.interval));
     write_result_line(out, h.result);
 }
 

@@ -64,14 +64,6 @@ constexpr std::string_view on_off(bool flag) noexcept
     return flag ? "On" : "Off";
 }
 
-// An element of the XML stream on a line of its own.
-template <class Value>
-void element_line(ui::event::xml_output& out, std::string_view name, const Value& value)
-{
-    out.element(name, value);
-    out << "\n";
-}
-
 // The result line only when there is a result text to show.
 template <text_sink Out>
 void write_result_element_if_any(Out& out, wstring_view text, std::string_view indent = "")
