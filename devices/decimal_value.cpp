@@ -30,7 +30,8 @@ decimal_value decimal_value::from(std::int64_t mantissa, unsigned places)
     if (mantissa < mantissa_min || mantissa > mantissa_max || places > max_places)
         overflow();
     constexpr std::uint64_t mantissa_mask = (std::uint64_t(1) << mantissa_bits) - 1;
-    return decimal_value(std::uint64_t(places) << mantissa_bits | (static_cast<std::uint64_t>(mantissa) & mantissa_mask));
+    const std::uint64_t low = static_cast<std::uint64_t>(mantissa) & mantissa_mask;
+    return decimal_value(std::uint64_t(places) << mantissa_bits | low);
 }
 
 decimal_value decimal_value::with_extra_place() const

@@ -33,8 +33,8 @@ struct run {
 const run runs[] = {
     {{{"A", true, 1, true, 3}}, true, "A was changed from QPSK to 8PSK",
      "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>8PSK</new>\n</parameter>\n", false},
-    {{{"A", false, 0, true, 3}}, true, "A was changed to 8PSK", "<parameter id=\"A\">\n\t<new>8PSK</new>\n</parameter>\n",
-     false},
+    {{{"A", false, 0, true, 3}}, true, "A was changed to 8PSK",
+     "<parameter id=\"A\">\n\t<new>8PSK</new>\n</parameter>\n", false},
     {{{"A", true, 1, false, 0}}, true, "A was changed from QPSK",
      "<parameter id=\"A\">\n\t<old>QPSK</old>\n</parameter>\n", false},
     {{{"A", false, 1, false, 3}}, true, "", "", true},
