@@ -21,7 +21,7 @@ int main(int argc, char** argv)
         for (auto& byte : input)
             byte = static_cast<std::uint8_t>(random() % 4 == 0 ? random() % 256 : random() % 8);
         input[1] = static_cast<std::uint8_t>(random());
-        input[2] = static_cast<std::uint8_t>(random() % 2);
+        input[2] = static_cast<std::uint8_t>(random() % 2 | (random() % 2) << 4);
         LLVMFuzzerTestOneInput(input.data(), input.size());
     }
     std::printf("%ld inputs rendered\n", iterations);

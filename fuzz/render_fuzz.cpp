@@ -3,13 +3,28 @@
 // AddressSanitizer a stray access is a crash; the canary after the buffer
 // catches writes that stay inside the allocation.
 //
-// Input: byte 0 picks the event type and the form, bytes 1-2 the capacity,
-// the rest is the payload.
+// Input: byte 0 picks the event type and the form, bytes 1-2 the capacity
+// (and bit 4 of byte 2 names a registered alarm in the payload), the rest is
+// the payload.
 #include <cstdint>
+#include <algorithm>
 #include <cstdlib>
 #include <vector>
 
 #include "core/event_types.h"
+#include "events/alarm_type_map.h"
+
+namespace {
+
+// An alarm registered under the all-zero identifier, so that alarm status
+// payloads reach their named path, not only "bad alarm id".
+const bool alarm_registered = [] {
+    static const alarm_type_record link{GUID{}, "Link"};
+    RegisterAlarmTypeMap(1, &link);
+    return true;
+}();
+
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -22,7 +37,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // The payload in an allocation of its own, so that reading one byte past
     // it is caught.
-    const std::vector<std::uint8_t> payload(data + 3, data + size);
+    std::vector<std::uint8_t> payload(data + 3, data + size);
+    if (alarm_registered && (data[2] & 0x10) && payload.size() >= 18)
+        std::fill(payload.begin() + 2, payload.begin() + 18, 0);
     constexpr wchar canary = 0xA5A5;
     std::vector<wchar> buffer(capacity + 4, canary);
     std::uint32_t colour = 0;
