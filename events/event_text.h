@@ -53,6 +53,17 @@ void write_result_element(Out& out, wstring_view text, std::string_view indent =
     out << indent << "<result>\"" << text << "\"</result>\n";
 }
 
+// How the configuration texts spell a flag.
+constexpr std::string_view lowercase_true_false(bool flag) noexcept
+{
+    return flag ? "true" : "false";
+}
+
+constexpr std::string_view on_off(bool flag) noexcept
+{
+    return flag ? "On" : "Off";
+}
+
 // The result line only when there is a result text to show.
 template <text_sink Out>
 void write_result_element_if_any(Out& out, wstring_view text, std::string_view indent = "")

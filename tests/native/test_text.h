@@ -1,9 +1,11 @@
 // Test helpers: wide text as UTF-8 for readable comparisons and messages.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
+#include "core/event_output.h"
 #include "core/platform.h"
 #include "core/wide.h"
 
@@ -24,4 +26,14 @@ inline std::string take_error_description()
     std::string text = platform::error_info_description(info);
     platform::release(info);
     return text;
+}
+
+// What `write` puts into a fresh stream of the given kind, as UTF-8.
+template <class Stream = ui::event::text_output, class Write>
+std::string written(Write&& write)
+{
+    std::array<wchar, 1024> buffer{};
+    Stream out(buffer.data(), buffer.size());
+    write(out);
+    return utf8(wstring_view(out.data(), out.size()));
 }

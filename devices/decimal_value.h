@@ -1,0 +1,79 @@
+// A signed decimal fixed-point number in one 64-bit word.
+//
+// The low 58 bits hold a two's-complement mantissa, the top 6 bits the count
+// of decimal places, and the value is mantissa / 10^places. Arithmetic that
+// would not fit these bits is refused with the wide error "decimal overflow"
+// rather than letting a digit fall off silently.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "core/output_stream.h"
+
+class decimal_value {
+public:
+    static constexpr unsigned mantissa_bits = 58;
+    static constexpr unsigned max_places = 63;
+    static constexpr std::int64_t mantissa_max = (std::int64_t(1) << (mantissa_bits - 1)) - 1;
+    static constexpr std::int64_t mantissa_min = -(std::int64_t(1) << (mantissa_bits - 1));
+    // A mantissa whose magnitude is below this still has room for one more
+    // factor of ten: 14411518807585587.
+    static constexpr std::int64_t scale_limit = (std::int64_t(1) << (mantissa_bits - 1)) / 10;
+
+    constexpr decimal_value() noexcept = default;   // zero
+
+    // mantissa / 10^places; "decimal overflow" when the mantissa needs more
+    // than 58 bits or the count of places more than 63.
+    static decimal_value from(std::int64_t mantissa, unsigned places = 0);
+
+    static constexpr decimal_value from_bits(std::uint64_t bits) noexcept { return decimal_value(bits); }
+    constexpr std::uint64_t bits() const noexcept { return bits_; }
+
+    constexpr std::int64_t mantissa() const noexcept
+    {
+        // Shift the sign bit of the 58-bit field to the top and back down again.
+        return static_cast<std::int64_t>(bits_ << (64 - mantissa_bits)) >> (64 - mantissa_bits);
+    }
+    constexpr unsigned places() const noexcept { return static_cast<unsigned>(bits_ >> mantissa_bits); }
+
+    // The same value with one more decimal place (the mantissa times ten);
+    // "decimal overflow" once the mantissa has reached the scale limit.
+    decimal_value with_extra_place() const;
+
+    // The quotient, with no digit lost where the mantissa can hold them all.
+    //
+    // Factors of ten in the divisor only move the decimal point. What is left
+    // of the divisor (nothing, for every unit table) is divided into the
+    // mantissa after raising it, place by place, while it is not yet a
+    // multiple and still below the scale limit; a quotient that does not
+    // terminate within the mantissa is cut toward zero at its last digit.
+    // "decimal overflow" for a zero divisor or when the places run out.
+    decimal_value divided_by(std::uint64_t divisor) const;
+
+    // The integer part of the magnitude: 1234 for -1234.56.
+    std::uint64_t whole_magnitude() const noexcept;
+
+    // The digits as a person writes them: "-" when negative, the integer part
+    // (at least "0"), then "." and the fractional digits when any of them is
+    // not zero; trailing zeros are dropped, so 1.500 reads "1.5" and 2.000 "2".
+    struct text {
+        static constexpr std::size_t capacity = 2 + max_places + 20;   // sign, "0.", places, digits
+        char units[capacity];
+        std::size_t size;
+        std::string_view view() const noexcept { return {units, size}; }
+    };
+    text digits() const noexcept;
+
+private:
+    constexpr explicit decimal_value(std::uint64_t bits) noexcept : bits_(bits) {}
+
+    std::uint64_t bits_ = 0;
+};
+
+template <text_sink Out>
+Out& operator<<(Out& out, decimal_value value)
+{
+    return out << value.digits().view();
+}

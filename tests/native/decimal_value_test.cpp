@@ -1,0 +1,162 @@
+// The decimal fixed-point value: its bit layout, its digits, the scale limit
+// and the division that keeps every digit.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "devices/decimal_value.h"
+#include "tests/native/test_text.h"
+
+namespace {
+
+constexpr std::int64_t limit = 14411518807585587;
+
+std::string text_of(decimal_value value)
+{
+    return std::string(value.digits().view());
+}
+
+// The wide text of the "decimal overflow" error that `f` raises, or "" when
+// it raises nothing.
+template <class F>
+std::string overflow_text(F f)
+{
+    try {
+        f();
+    } catch (const generic_error_t<wchar_t>& e) {
+        return utf8(wstring_view(e.text()));
+    }
+    return "";
+}
+
+TEST(DecimalValue, MantissaAndPlacesShareOneWord)
+{
+    struct row {
+        std::int64_t mantissa;
+        unsigned places;
+        std::uint64_t bits;
+    };
+    const row rows[] = {
+        {0, 0, 0},
+        {1, 0, 1},
+        {-1, 2, 0x0800'0000'0000'0000 | 0x03FF'FFFF'FFFF'FFFF},
+        {decimal_value::mantissa_max, 63, 0xFC00'0000'0000'0000 | 0x01FF'FFFF'FFFF'FFFF},
+        {decimal_value::mantissa_min, 1, 0x0400'0000'0000'0000 | 0x0200'0000'0000'0000},
+    };
+    for (const row& r : rows) {
+        const decimal_value v = decimal_value::from(r.mantissa, r.places);
+        EXPECT_EQ(v.bits(), r.bits) << r.mantissa;
+        const decimal_value back = decimal_value::from_bits(r.bits);
+        EXPECT_EQ(back.mantissa(), r.mantissa);
+        EXPECT_EQ(back.places(), r.places);
+    }
+}
+
+TEST(DecimalValue, DigitsDropTrailingZerosAndKeepEverySignificantOne)
+{
+    struct row {
+        std::int64_t mantissa;
+        unsigned places;
+        std::string text;
+    };
+    const row rows[] = {
+        {0, 0, "0"},
+        {0, 7, "0"},
+        {15, 1, "1.5"},
+        {-15, 1, "-1.5"},
+        {1500, 3, "1.5"},
+        {2000, 3, "2"},
+        {5, 3, "0.005"},
+        {-5, 3, "-0.005"},
+        {-10, 1, "-1"},
+        {decimal_value::mantissa_max, 0, "144115188075855871"},
+        {decimal_value::mantissa_min, 0, "-144115188075855872"},
+        {decimal_value::mantissa_min, 18, "-0.144115188075855872"},
+        {1, 63, "0." + std::string(62, '0') + "1"},
+        {-decimal_value::mantissa_max, 63, "-0." + std::string(45, '0') + "144115188075855871"},
+    };
+    for (const row& r : rows)
+        EXPECT_EQ(text_of(decimal_value::from(r.mantissa, r.places)), r.text) << r.mantissa << "/" << r.places;
+}
+
+TEST(DecimalValue, AnExtraPlaceNeedsRoomBelowTheScaleLimit)
+{
+    struct row {
+        std::int64_t mantissa;
+        unsigned places;
+        const char* text;   // null: overflow
+    };
+    const row rows[] = {
+        {0, 0, "0"},
+        {limit - 1, 0, "14411518807585586"},
+        {-(limit - 1), 2, "-144115188075855.86"},
+        {limit, 0, nullptr},
+        {-limit, 0, nullptr},
+        {decimal_value::mantissa_max, 0, nullptr},
+        {1, 63, nullptr},
+    };
+    for (const row& r : rows) {
+        const decimal_value v = decimal_value::from(r.mantissa, r.places);
+        if (!r.text) {
+            EXPECT_EQ(overflow_text([&] { v.with_extra_place(); }), "decimal overflow") << r.mantissa;
+            continue;
+        }
+        const decimal_value raised = v.with_extra_place();
+        EXPECT_EQ(raised.mantissa(), r.mantissa * 10);
+        EXPECT_EQ(raised.places(), r.places + 1);
+        EXPECT_EQ(text_of(raised), r.text);
+    }
+}
+
+TEST(DecimalValue, DivisionKeepsEveryDigitTheMantissaCanHold)
+{
+    struct row {
+        std::int64_t mantissa;
+        unsigned places;
+        std::uint64_t divisor;
+        std::string text;
+    };
+    const row rows[] = {
+        {70000000, 0, 1000000, "70"},
+        {999999, 0, 1000, "999.999"},
+        {4294967295, 0, 1000000000, "4.294967295"},
+        {-125, 1, 1000, "-0.0125"},
+        {0, 0, 1000000000000, "0"},
+        {1536000, 0, 1000, "1536"},
+        {7, 0, 1, "7"},
+        // At and beyond the scale limit the point moves instead of the digits.
+        {decimal_value::mantissa_max, 0, 10, "14411518807585587.1"},
+        {decimal_value::mantissa_min, 0, 1000000000000, "-144115.188075855872"},
+        {limit, 0, 100, "144115188075855.87"},
+        // Divisors that are not powers of ten: raised until they divide, or
+        // as far as the limit allows and then cut toward zero.
+        {3, 0, 4, "0.75"},
+        {1, 0, 2048, "0.00048828125"},
+        {1, 0, 3, "0.33333333333333333"},
+        {-2, 0, 3, "-0.6666666666666666"},
+        {limit - 1, 0, 3, "4803839602528528.6"},
+        // Trailing zeros make room for the divisor's places.
+        {1000, 62, 1000, "0." + std::string(61, '0') + "1"},
+    };
+    for (const row& r : rows)
+        EXPECT_EQ(text_of(decimal_value::from(r.mantissa, r.places).divided_by(r.divisor)), r.text)
+            << r.mantissa << "/" << r.places << " by " << r.divisor;
+}
+
+TEST(DecimalValue, WhatDoesNotFitTheWordIsRefused)
+{
+    const std::function<void()> refused[] = {
+        [] { decimal_value::from(decimal_value::mantissa_max + 1); },
+        [] { decimal_value::from(decimal_value::mantissa_min - 1); },
+        [] { decimal_value::from(INT64_MAX); },
+        [] { decimal_value::from(0, 64); },
+        [] { decimal_value::from(1).divided_by(0); },
+        [] { decimal_value::from(1, 62).divided_by(100); },
+        [] { decimal_value::from(-7, 60).divided_by(1000000); },
+    };
+    for (std::size_t i = 0; i < std::size(refused); ++i)
+        EXPECT_EQ(overflow_text(refused[i]), "decimal overflow") << "case " << i;
+}
+
+} // namespace
