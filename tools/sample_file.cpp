@@ -157,6 +157,16 @@ std::string trim(const std::string& s)
 
 } // namespace
 
+std::vector<std::uint8_t> parse_hex_bytes(const std::string& text)
+{
+    return parse_bytes(text, "payload", 0);
+}
+
+GUID parse_event_id(const std::string& text)
+{
+    return parse_guid(text, "event", 0);
+}
+
 std::vector<sample> parse(const std::string& content, const std::string& file)
 {
     std::vector<sample> result;

@@ -39,6 +39,11 @@ public:
 };
 
 std::vector<sample> parse(const std::string& content, const std::string& file);
+
+// The two field forms on their own: hexadecimal bytes (blanks ignored) and a
+// GUID with or without braces. Both throw format_error.
+std::vector<std::uint8_t> parse_hex_bytes(const std::string& text);
+GUID parse_event_id(const std::string& text);
 std::vector<sample> load(const std::filesystem::path& path);
 // Every *.samples file of a folder, in name order.
 std::vector<sample> load_folder(const std::filesystem::path& folder);
