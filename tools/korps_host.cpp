@@ -1,6 +1,6 @@
 // A small host: loads korps.dll the way the management console does, lists
-// the event types it offers, and renders an event log (the sample files) with
-// the renderers it handed out.
+// the event types it offers, renders an event log (the sample files) with the
+// renderers it handed out, and turns a few device names into monikers.
 #include <cstdio>
 #include <io.h>
 #include <cstring>
@@ -8,6 +8,7 @@
 #include <string>
 
 #include "include/korps/korps.h"
+#include "korps/korps_interfaces.h"
 #include "tools/sample_file.h"
 
 namespace {
@@ -87,6 +88,44 @@ void show(const EVENTUI& type, const samples::sample& event, bool colour)
     }
 }
 
+// Device names as a client meets them: the module's class object parses a
+// "kor:" name into a moniker, which prints itself back in canonical form.
+void show_device_names(HMODULE module)
+{
+    using get_class_object_t = HRESULT(__stdcall*)(REFCLSID, REFIID, void**);
+    auto get_class_object =
+        reinterpret_cast<get_class_object_t>(reinterpret_cast<void*>(GetProcAddress(module, "DllGetClassObject")));
+    IParseDisplayName* parser = nullptr;
+    if (!get_class_object || FAILED(get_class_object(CLSID_KorMoniker, IID_IParseDisplayName,
+                                                     reinterpret_cast<void**>(&parser))))
+        return;
+    std::printf("\ndevice names\n");
+    const wchar_t* names[] = {L"kor:FCN1L-10.0.0.1", L"kor:fcn1l-010.000.000.001,+7,3", L"kor:mac-0006B0-1A2B3C",
+                              L"kor:transponder-12", L"kor:fcn1l-1.2.3.256"};
+    for (const wchar_t* name : names) {
+        ULONG eaten = 0;
+        IMoniker* moniker = nullptr;
+        const HRESULT result = parser->ParseDisplayName(nullptr, const_cast<LPOLESTR>(name), &eaten, &moniker);
+        if (FAILED(result)) {
+            IErrorInfo* info = nullptr;
+            BSTR why = nullptr;
+            if (GetErrorInfo(0, &info) == S_OK && info && SUCCEEDED(info->GetDescription(&why)) && why)
+                std::printf("%-34s refused: %s\n", utf8(name).c_str(), utf8(why).c_str());
+            SysFreeString(why);
+            if (info)
+                info->Release();
+            continue;
+        }
+        LPOLESTR canonical = nullptr;
+        if (SUCCEEDED(moniker->GetDisplayName(nullptr, nullptr, &canonical))) {
+            std::printf("%-34s -> %s\n", utf8(name).c_str(), utf8(canonical).c_str());
+            CoTaskMemFree(canonical);
+        }
+        moniker->Release();
+    }
+    parser->Release();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -130,6 +169,8 @@ int main(int argc, char** argv)
     const event_map events = enumerate(enumerate_types, true);
 
     int status = events.size() == 40 ? 0 : 1;
+    CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+    show_device_names(module);
     if (log) {
         try {
             const std::string where = log;
@@ -148,6 +189,7 @@ int main(int argc, char** argv)
             status = 1;
         }
     }
+    CoUninitialize();
     FreeLibrary(module);
     return status;
 }
