@@ -50,3 +50,9 @@ HRESULT exception_result(const std::exception& e) noexcept
     platform::release(info);
     return result;
 }
+
+HRESULT unknown_exception_result() noexcept
+{
+    platform::set_error_info(nullptr);
+    return E_UNEXPECTED;
+}

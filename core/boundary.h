@@ -11,6 +11,9 @@
 // (or none) as the thread's error information.
 HRESULT exception_result(const std::exception& e) noexcept;
 
+// E_UNEXPECTED for anything else, with no error object left on the thread.
+HRESULT unknown_exception_result() noexcept;
+
 template <class Body>
 HRESULT guarded(Body&& body) noexcept
 {
@@ -21,6 +24,6 @@ HRESULT guarded(Body&& body) noexcept
     } catch (...) {
         // Nothing but std::exception is ever thrown inside the module; should
         // anything else arrive it still must not unwind into the host.
-        return E_UNEXPECTED;
+        return unknown_exception_result();
     }
 }

@@ -4,6 +4,8 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
+
 #include <utility>
 
 namespace platform {
@@ -29,21 +31,22 @@ std::size_t utf8_to_utf16(std::string_view text, wchar* out, std::size_t size) n
 {
     if (size == 0)
         return 0;
-    int written = 0;
-    if (!text.empty()) {
-        written = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), out,
-                                      static_cast<int>(size - 1));
-        if (written <= 0) {
-            // Too long for the buffer: convert the whole and keep what fits.
-            const int needed = MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-            if (needed > 0) {
-                wstring whole(static_cast<std::size_t>(needed), L'\0');
-                MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), whole.data(), needed);
-                written = static_cast<int>(std::min<std::size_t>(whole.size(), size - 1));
-                whole.copy(out, static_cast<std::size_t>(written));
-            } else {
-                written = 0;
-            }
+    out[0] = 0;
+    if (size == 1 || text.empty())
+        return 0;
+    const int length = static_cast<int>(text.size());
+    int written = MultiByteToWideChar(CP_UTF8, 0, text.data(), length, out, static_cast<int>(size - 1));
+    if (written <= 0) {
+        // Too long for the buffer: convert the whole and keep what fits.
+        try {
+            const int needed = MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0);
+            wstring whole(static_cast<std::size_t>(std::max(needed, 0)), L'\0');
+            if (needed > 0)
+                MultiByteToWideChar(CP_UTF8, 0, text.data(), length, whole.data(), needed);
+            written = static_cast<int>(std::min<std::size_t>(whole.size(), size - 1));
+            whole.copy(out, static_cast<std::size_t>(written));
+        } catch (...) {
+            written = 0;
         }
     }
     out[written] = 0;
@@ -73,12 +76,18 @@ std::string utf16_to_utf8(wstring_view text, std::size_t limit)
 
 std::string system_message(HRESULT code)
 {
-    char text[260];
-    DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                                  static_cast<DWORD>(code), 0, text, sizeof text, nullptr);
-    while (length > 0 && (text[length - 1] == '\n' || text[length - 1] == '\r'))
-        --length;
-    return std::string(text, length);
+    // The system's own text, cut to 260 bytes like every message of the
+    // module, without its trailing line break.
+    char* text = nullptr;
+    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS |
+                                            FORMAT_MESSAGE_ALLOCATE_BUFFER,
+                                        nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<char*>(&text), 0,
+                                        nullptr);
+    std::string message(text ? text : "", text ? std::min<DWORD>(length, 259) : 0);
+    LocalFree(text);
+    while (!message.empty() && (message.back() == '\n' || message.back() == '\r'))
+        message.pop_back();
+    return message;
 }
 
 com::error_info* create_error_info(wstring_view description) noexcept

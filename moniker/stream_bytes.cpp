@@ -1,5 +1,7 @@
 #include "moniker/stream_bytes.h"
 
+#include <memory>
+
 #include "core/errors.h"
 #include "core/platform.h"
 
@@ -9,10 +11,10 @@ namespace {
 // thread.
 [[noreturn]] void throw_stream_failure(HRESULT result)
 {
-    com::error_info* info = platform::take_error_info();
-    const com::error failure(result, info);
-    platform::release(info);
-    throw failure;
+    // Released however the construction of the error ends.
+    const std::unique_ptr<com::error_info, void (*)(com::error_info*)> info(platform::take_error_info(),
+                                                                            platform::release);
+    throw com::error(result, info.get());
 }
 
 // A transfer must succeed and move every byte; one that moved fewer fails

@@ -52,6 +52,13 @@ TEST(Boundary, MapsByExactType)
     platform::release(carried);
 }
 
+TEST(Boundary, AnythingElseIsUnexpectedWithoutAStaleErrorObject)
+{
+    EXPECT_EQ(guarded([]() -> HRESULT { throw io::overflow(); }), DISP_E_EXCEPTION);   // leaves one behind
+    EXPECT_EQ(guarded([]() -> HRESULT { throw 42; }), E_UNEXPECTED);
+    EXPECT_EQ(platform::take_error_info(), nullptr);
+}
+
 TEST(Boundary, SuccessPassesThrough)
 {
     EXPECT_EQ(guarded([] { return S_FALSE; }), S_FALSE);

@@ -7,6 +7,7 @@
 #include "core/boundary.h"
 #include "core/errors.h"
 #include "core/event_output.h"
+#include "core/platform.h"
 #include "tests/wine/module_fixture.h"
 
 namespace {
@@ -44,6 +45,21 @@ TEST(Platform, NarrowTextIsWidenedWithTheAnsiCodePage)
     MultiByteToWideChar(CP_ACP, 0, "a\xE9", 2, expected, 2);
     EXPECT_EQ(buffer[0], L'a');
     EXPECT_EQ(buffer[1], expected[1]);
+}
+
+TEST(Platform, Utf8ConversionStaysInItsBuffer)
+{
+    struct Case {
+        std::size_t size;
+        const wchar_t* expected;
+    };
+    for (const Case& c : {Case{1, L""}, Case{2, L"c"}, Case{4, L"caf"}, Case{5, L"caf\u00E9"}, Case{9, L"caf\u00E9"}}) {
+        std::array<wchar_t, 10> buffer;
+        buffer.fill(0xCCCC);
+        platform::utf8_to_utf16("caf\xC3\xA9", buffer.data(), c.size);
+        EXPECT_STREQ(buffer.data(), c.expected) << c.size;
+        EXPECT_EQ(buffer[c.size], 0xCCCC) << "wrote past " << c.size;
+    }
 }
 
 TEST(Platform, DescriptionsAreUtf8)
