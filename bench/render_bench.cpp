@@ -5,19 +5,10 @@
 #include <array>
 
 #include "core/event_types.h"
-#include "core/guid.h"
 #include "events/alarm_type_map.h"
 #include "tools/sample_file.h"
 
 namespace {
-
-const event_type_row* find_row(const GUID& id)
-{
-    for (const event_type_row& row : event_types())
-        if (same_guid(*row.eventType, id))
-            return &row;
-    return nullptr;
-}
 
 void render_text(benchmark::State& state, const samples::sample& s, const event_type_row& row)
 {
@@ -45,7 +36,7 @@ void find_event_type(benchmark::State& state)
 {
     const GUID last = *event_types().back().eventType;
     for (auto _ : state)
-        benchmark::DoNotOptimize(find_row(last));
+        benchmark::DoNotOptimize(find_event_type(last));
 }
 BENCHMARK(find_event_type);
 
@@ -56,7 +47,7 @@ int main(int argc, char** argv)
     samples::register_alarm_types(&RegisterAlarmTypeMap);
     static const auto all = samples::load_folder(KORPS_SAMPLES_DIR);
     for (const samples::sample& s : all) {
-        const event_type_row* row = find_row(s.event);
+        const event_type_row* row = find_event_type(s.event);
         if (!row)
             continue;
         // Only successful renderings tell how fast the renderers are.

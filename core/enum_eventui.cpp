@@ -3,6 +3,7 @@
 #include <cstring>
 #include <new>
 
+#include "core/interface_map.h"
 #include "module/module_lock.h"
 
 CEnumEVENTUI::CEnumEVENTUI() noexcept
@@ -39,15 +40,10 @@ HRESULT CEnumEVENTUI::Create(const event_type_row* begin, const event_type_row* 
 
 HRESULT CEnumEVENTUI::QueryInterface(REFIID riid, void** ppv)
 {
-    if (!ppv)
-        return E_POINTER;
-    if (IsEqualIID(riid, IID_IUnknown) || IsEqualIID(riid, IID_IEnumEVENTUI)) {
-        *ppv = static_cast<IEnumEVENTUI*>(this);
-        AddRef();
-        return S_OK;
-    }
-    *ppv = nullptr;
-    return E_NOINTERFACE;
+    static constexpr interface_entry<CEnumEVENTUI> interfaces[] = {
+        interface_row<CEnumEVENTUI, IEnumEVENTUI>(IID_IEnumEVENTUI),
+    };
+    return query_interface(this, interfaces, riid, ppv);
 }
 
 ULONG CEnumEVENTUI::AddRef()

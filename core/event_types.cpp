@@ -155,3 +155,11 @@ std::span<const event_type_row> event_types() noexcept
 {
     return table;
 }
+
+const event_type_row* find_event_type(const GUID& id) noexcept
+{
+    for (const event_type_row& row : table)
+        if (same_guid(*row.eventType, id))
+            return &row;
+    return nullptr;
+}

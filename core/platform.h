@@ -41,6 +41,16 @@ void set_error_info(com::error_info* info) noexcept;
 // null. The thread no longer holds it afterwards.
 com::error_info* take_error_info() noexcept;
 
+// The description of the calling thread's error object as UTF-8, taking the
+// object from the thread; empty when there is none.
+inline std::string take_error_description()
+{
+    com::error_info* info = take_error_info();
+    std::string text = error_info_description(info);
+    release(info);
+    return text;
+}
+
 // Task memory: what the host frees with its own task allocator.
 void* task_alloc(std::size_t bytes) noexcept;
 void task_free(void* block) noexcept;

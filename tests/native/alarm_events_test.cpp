@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "events/alarm_events.h"
-#include "events/alarm_layouts.h"
 #include "events/alarm_state.h"
+#include "events/unit_alarm_record.h"
 #include "events/unit_status.h"
 #include "tests/native/test_text.h"
 
@@ -37,15 +37,6 @@ rendered text_of(const std::vector<std::uint8_t>& payload)
     const HRESULT result = render::text_renderer<unit_alarm_state_changed_text>(
         nullptr, static_cast<std::uint32_t>(payload.size()), payload.data(), buffer, 2048, &colour);
     return {result, utf8(buffer), colour};
-}
-
-std::string xml_of(const std::vector<std::uint8_t>& payload)
-{
-    wchar buffer[2048];
-    const HRESULT result = render::xml_renderer<unit_alarm_state_changed_xml>(
-        nullptr, static_cast<std::uint32_t>(payload.size()), payload.data(), buffer, 2048);
-    EXPECT_EQ(result, S_OK);
-    return utf8(buffer);
 }
 
 // One bit raised in an otherwise clear ten-byte mask.
@@ -91,45 +82,6 @@ TEST(UnitAlarmBits, EachBitNamesItsAlarm)
         EXPECT_EQ(r.result, S_OK);
         EXPECT_EQ(r.text, c.text) << "type " << int(c.type) << ", byte " << c.byte << ", bit " << c.bit;
     }
-}
-
-// Raising any named bit alone lists exactly that alarm, red; clearing it
-// alone lists it as cleared, green; the XML names it as raised.
-TEST(UnitAlarmBits, EveryNamedBitRaisesAndClears)
-{
-    for (const alarm_layout& layout : alarm_layouts::rows) {
-        const auto check = [&](std::span<const alarm_bit> bits, std::uint32_t offset, const std::string& prefix) {
-            for (const alarm_bit& b : bits) {
-                const auto set = one_bit(offset + b.bit / 8, b.bit % 8);
-                const std::vector<std::uint8_t> clear(10, 0);
-                const std::string at = std::string(b.name) + " of type " + std::to_string(layout.device_type);
-
-                const rendered raised = text_of(alarm_payload(layout.device_type, clear, set));
-                EXPECT_EQ(raised.text, prefix + b.name + " alarmed") << at;
-                EXPECT_EQ(raised.colour, render::colours::red) << at;
-                const rendered cleared = text_of(alarm_payload(layout.device_type, set, clear));
-                EXPECT_EQ(cleared.text, prefix + b.name + " alarm cleared") << at;
-                EXPECT_EQ(cleared.colour, render::colours::green) << at;
-                if (layout.in_xml) {
-                    const std::string xml = xml_of(alarm_payload(layout.device_type, clear, set));
-                    EXPECT_NE(xml.find(std::string("<raised>") + b.name + "</raised>\n"), std::string::npos) << at;
-                }
-            }
-        };
-        for (const alarm_group& group : layout.groups)
-            check(group.bits, group.offset, "");
-        for (std::uint32_t slot = 0; slot < layout.demodulators; ++slot)
-            check(layout.demodulator, alarm_layout::slot_offset(slot), "Device " + std::to_string(slot + 1) + ": ");
-    }
-}
-
-// The text lists the receive-only chassis' alarms; its XML form never has.
-TEST(UnitAlarmBits, ReceiverChassisXmlListsNoBits)
-{
-    std::vector<std::uint8_t> all(10, 0xFF);
-    const auto payload = alarm_payload(0x5E, std::vector<std::uint8_t>(10, 0), all);
-    EXPECT_NE(text_of(payload).text, "");
-    EXPECT_EQ(xml_of(payload), "");
 }
 
 TEST(UnitAlarmRecord, RefusesMasksLongerThanItsBuffers)

@@ -110,23 +110,4 @@ TEST(AlarmTypeMap, EveryByteOfTheIdentifierCounts)
         EXPECT_EQ(alarm_types::name_of(next_in(base, byte)), names[byte]) << "byte " << byte;
 }
 
-// Bytes in memory order, unsigned: not the order of the GUID's fields.
-TEST(AlarmTypeMap, OrdersByMemoryBytes)
-{
-    const alarm_types::id_order less;
-    const struct {
-        GUID a, b;
-        bool a_first;
-    } cases[] = {
-        {GUID{0x00000100, 0, 0, {}}, GUID{0x00000001, 0, 0, {}}, true},   // little-endian Data1
-        {GUID{0, 0, 0, {0x80}}, GUID{0, 0, 0, {0x7F}}, false},             // bytes are unsigned
-        {GUID{0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 1}}, GUID{0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 2}}, true},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(less(c.a, c.b), c.a_first);
-        EXPECT_EQ(less(c.b, c.a), !c.a_first);
-        EXPECT_FALSE(less(c.a, c.a));
-    }
-}
-
 } // namespace

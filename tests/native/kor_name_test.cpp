@@ -312,32 +312,6 @@ TEST(KorNameStream, BytesOfEachKind)
     }
 }
 
-TEST(KorNameStream, ShortInputFails)
-{
-    for (const Stored& c : stored_names) {
-        for (std::size_t size = 0; size < c.bytes.size(); ++size) {
-            memory_source in;
-            in.bytes.assign(c.bytes.begin(), c.bytes.begin() + static_cast<std::ptrdiff_t>(size));
-            KorName loaded;
-            EXPECT_THROW(load_kor_name(loaded, in), io::underflow) << printed(c.name) << " cut to " << size;
-        }
-    }
-}
-
-TEST(KorNameStream, UnknownKind)
-{
-    memory_sink out;
-    EXPECT_THROW(save_kor_name(of_kind(4), out), not_expected);
-    EXPECT_TRUE(out.bytes.empty()) << "nothing of an unknown kind is written";
-
-    memory_source in;
-    in.bytes = {4, 0, 0, 0, 1, 2, 3, 4};
-    KorName loaded;
-    EXPECT_THROW(load_kor_name(loaded, in), not_expected);
-    EXPECT_EQ(loaded.kind, 4u);
-    EXPECT_EQ(in.at, 4u);
-}
-
 TEST(KorNameHash, ValueOfEachKind)
 {
     struct Case {

@@ -1,6 +1,5 @@
 // The native tests take the renderers straight from the event type table.
 #include "core/event_types.h"
-#include "core/guid.h"
 #include "events/alarm_type_map.h"
 #include "tests/common/sample_check.h"
 #include "tests/native/test_text.h"
@@ -19,10 +18,8 @@ void register_alarm_types()
 
 renderers find_renderers(const GUID& id)
 {
-    for (const event_type_row& row : event_types())
-        if (same_guid(*row.eventType, id))
-            return {row.xmlRenderer, row.textRenderer};
-    return {};
+    const event_type_row* row = find_event_type(id);
+    return row ? renderers{row->xmlRenderer, row->textRenderer} : renderers{};
 }
 
 } // namespace sample_check

@@ -146,28 +146,4 @@ TEST(XmlStream, AttributeAfterTheTagClosedIsRefused)
     }
 }
 
-TEST(TextFormat, DecimalsAndAddresses)
-{
-    struct Case {
-        void (*write)(ui::event::text_output&);
-        const char* expected;
-    };
-    const Case cases[] = {
-        {[](auto& out) { out << decimal(0); }, "0"},
-        {[](auto& out) { out << decimal(-1); }, "-1"},
-        {[](auto& out) { out << decimal(INT32_MIN); }, "-2147483648"},
-        {[](auto& out) { out << decimal(UINT32_MAX); }, "4294967295"},
-        {[](auto& out) { out << decimal(UINT64_MAX); }, "18446744073709551615"},
-        {[](auto& out) { out << dotted_ipv4{167837696}; }, "10.1.0.0"},
-        {[](auto& out) { out << dotted_ipv4{0xFFFF0000}; }, "255.255.0.0"},
-        {[](auto& out) { out << dotted_ipv4{0}; }, "0.0.0.0"},
-    };
-    for (const Case& c : cases) {
-        std::array<wchar, 32> buffer{};
-        ui::event::text_output out(buffer.data(), buffer.size());
-        c.write(out);
-        EXPECT_EQ(utf8(buffer.data()), c.expected);
-    }
-}
-
 } // namespace

@@ -22,10 +22,7 @@ inline std::string utf8(const wchar* text)
 // The description of the calling thread's error object, taken from the thread.
 inline std::string take_error_description()
 {
-    com::error_info* info = platform::take_error_info();
-    std::string text = platform::error_info_description(info);
-    platform::release(info);
-    return text;
+    return platform::take_error_description();
 }
 
 // What `write` puts into a fresh stream of the given kind, as UTF-8.

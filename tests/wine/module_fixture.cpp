@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <oleauto.h>
+#include "core/platform.h"
 
 korps_module& korps_module::get()
 {
@@ -22,19 +22,5 @@ korps_module::korps_module() : module_(LoadLibraryW(L"korps.dll"))
 
 std::string take_error_description()
 {
-    IErrorInfo* info = nullptr;
-    if (GetErrorInfo(0, &info) != S_OK || !info)
-        return {};
-    BSTR description = nullptr;
-    std::string text;
-    if (SUCCEEDED(info->GetDescription(&description)) && description) {
-        const int length = WideCharToMultiByte(CP_UTF8, 0, description, -1, nullptr, 0, nullptr, nullptr);
-        if (length > 1) {
-            text.resize(static_cast<std::size_t>(length - 1));
-            WideCharToMultiByte(CP_UTF8, 0, description, -1, text.data(), length, nullptr, nullptr);
-        }
-        SysFreeString(description);
-    }
-    info->Release();
-    return text;
+    return platform::take_error_description();
 }

@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "core/event_types.h"
-#include "core/guid.h"
 #include "core/platform.h"
 #include "events/alarm_type_map.h"
 #include "tools/sample_file.h"
@@ -34,15 +33,6 @@ std::string guid_text(const GUID& id)
     return text;
 }
 
-// What the thread's error object says about the last failure.
-std::string last_error()
-{
-    com::error_info* info = platform::take_error_info();
-    std::string text = platform::error_info_description(info);
-    platform::release(info);
-    return text;
-}
-
 const event_type_row* find_event(const std::string& which)
 {
     const auto rows = event_types();
@@ -54,13 +44,10 @@ const event_type_row* find_event(const std::string& which)
         if (utf8(row.name) == which)
             return &row;
     try {
-        const GUID id = samples::parse_event_id(which);
-        for (const event_type_row& row : rows)
-            if (same_guid(*row.eventType, id))
-                return &row;
+        return find_event_type(samples::parse_event_id(which));
     } catch (const samples::format_error&) {
+        return nullptr;
     }
-    return nullptr;
 }
 
 // Renders the payload both ways; false when either renderer failed.
@@ -77,7 +64,7 @@ bool render_event(const event_type_row& row, const std::vector<std::uint8_t>& pa
     if (SUCCEEDED(result)) {
         std::printf("text   [0x%06X] %s\n", colour, utf8(buffer.data()).c_str());
     } else {
-        std::printf("text   failed with 0x%08X %s\n", static_cast<unsigned>(result), last_error().c_str());
+        std::printf("text   failed with 0x%08X %s\n", static_cast<unsigned>(result), platform::take_error_description().c_str());
         ok = false;
     }
     if (!row.xmlRenderer) {
@@ -88,7 +75,7 @@ bool render_event(const event_type_row& row, const std::vector<std::uint8_t>& pa
     if (SUCCEEDED(result)) {
         std::printf("xml\n%s\n", utf8(buffer.data()).c_str());
     } else {
-        std::printf("xml    failed with 0x%08X %s\n", static_cast<unsigned>(result), last_error().c_str());
+        std::printf("xml    failed with 0x%08X %s\n", static_cast<unsigned>(result), platform::take_error_description().c_str());
         ok = false;
     }
     return ok;
@@ -148,7 +135,7 @@ int main(int argc, char** argv)
             const auto events = path.ends_with(".samples") ? samples::load(path) : samples::load_folder(path);
             bool ok = true;
             for (const samples::sample& event : events) {
-                const event_type_row* row = find_event(guid_text(event.event));
+                const event_type_row* row = find_event_type(event.event);
                 if (!row) {
                     std::printf("%s:%d: unknown event type %s\n", event.file.c_str(), event.line,
                                 guid_text(event.event).c_str());
