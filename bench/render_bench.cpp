@@ -4,8 +4,8 @@
 
 #include <array>
 
-#include "core/event_types.h"
 #include "events/alarm_type_map.h"
+#include "module/event_types.h"
 #include "tools/sample_file.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <new>
 
 #include "core/interface_map.h"
-#include "module/module_lock.h"
+#include "core/module_lock.h"
 
 CEnumEVENTUI::CEnumEVENTUI() noexcept
 {
@@ -13,8 +13,6 @@ CEnumEVENTUI::CEnumEVENTUI() noexcept
 
 CEnumEVENTUI::~CEnumEVENTUI()
 {
-    if (lockInitialised_)
-        DeleteCriticalSection(&lock_);
     module::unlock();
 }
 
@@ -25,12 +23,6 @@ HRESULT CEnumEVENTUI::Create(const event_type_row* begin, const event_type_row* 
     auto* object = new (std::nothrow) CEnumEVENTUI;
     if (!object)
         return E_OUTOFMEMORY;
-    if (!InitializeCriticalSectionAndSpinCount(&object->lock_, 0)) {
-        const HRESULT result = HRESULT_FROM_WIN32(GetLastError());
-        delete object;
-        return result;
-    }
-    object->lockInitialised_ = true;
     object->begin_ = object->cur_ = begin;
     object->end_ = end;
     object->AddRef();

@@ -1,9 +1,9 @@
 // The enumerator over the event type table that UI_EnumEVENTUI hands out.
 #pragma once
 
-#include "core/event_types.h"
+#include "core/event_type_row.h"
+#include "core/ref_count.h"
 #include "include/korps/korps.h"
-#include "module/ref_count.h"
 
 class CEnumEVENTUI final : public IEnumEVENTUI {
 public:
@@ -24,10 +24,6 @@ private:
     ~CEnumEVENTUI();
 
     module::ref_count refs_;
-    // Kept for the enumerator's contract: its creation may fail and is
-    // reported; no method enters it, since one enumerator serves one thread.
-    CRITICAL_SECTION lock_;
-    bool lockInitialised_ = false;
     const event_type_row* begin_ = nullptr;
     const event_type_row* cur_ = nullptr;
     const event_type_row* end_ = nullptr;

@@ -1,6 +1,8 @@
 // The streams as the event renderers construct them.
 #pragma once
 
+#include <string_view>
+
 #include "core/xml_stream.h"
 
 namespace ui::event {
@@ -18,3 +20,12 @@ public:
 };
 
 } // namespace ui::event
+
+// An element on a line of its own on the XML stream: <name>value</name> and
+// a line break.
+template <class Value>
+void write_element_line(ui::event::xml_output& out, std::string_view name, const Value& value)
+{
+    out.element(name, value);
+    out << "\n";
+}

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <span>
 
+#include "devices/device_types.h"
 #include "events/alarm_bit_tables.h"
 #include "events/unit_alarm_record.h"
 
@@ -40,17 +41,17 @@ inline constexpr alarm_group fpga[] = {{fpga_unit, 0}, {fpga_transmit, 4}, {fpga
 inline constexpr alarm_group packet[] = {{packet_unit, 0}, {packet_transmit, 2}, {packet_receive, 4}};
 inline constexpr alarm_group receiver[] = {{receiver_unit, 0}};
 
-// The XML form of the receive-only chassis ('^') lists no alarm bits, only
+// The XML form of the receive-only chassis (fcn3al) lists no alarm bits, only
 // the state change: consumers of the XML read that unit's alarms from the
 // text, and the form stays as they know it.
 inline constexpr alarm_layout rows[] = {
-    {0x34, modem, {}, 0, true},
-    {0x35, modem, {}, 0, true},
-    {0x37, chassis, chassis_demodulator, 4, true},
-    {0x38, chassis, chassis_demodulator, 2, true},
-    {0x3A, fpga, {}, 0, true},
-    {0x58, packet, {}, 0, true},
-    {0x5E, receiver, receiver_demodulator, 4, false},
+    {device_types::fcn1l, modem, {}, 0, true},
+    {device_types::fcn1i, modem, {}, 0, true},
+    {device_types::fcn3l, chassis, chassis_demodulator, 4, true},
+    {device_types::fcn4l, chassis, chassis_demodulator, 2, true},
+    {device_types::osprey, fpga, {}, 0, true},
+    {device_types::fcn1al, packet, {}, 0, true},
+    {device_types::fcn3al, receiver, receiver_demodulator, 4, false},
 };
 
 // Every named bit lies inside the mask buffers, so no walk can reach past them.

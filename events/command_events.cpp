@@ -1,9 +1,7 @@
 #include "events/command_events.h"
 
-#include <algorithm>
-#include <span>
-
 #include "core/text_format.h"
+#include "core/utf16le.h"
 #include "events/command_text.h"
 #include "events/event_text.h"
 
@@ -47,21 +45,6 @@ subnet read_subnet(payload_cursor& in)
     return {address, in.read_u32()};
 }
 
-// UTF-16LE units copied through in pieces. The size rule of the event has
-// already matched the count against the payload, so the message may be as
-// long as it says; only the caller's buffer bounds it.
-void write_utf16le(ui::event::text_output& out, std::span<const std::uint8_t> bytes)
-{
-    wchar piece[64];
-    while (bytes.size() >= 2) {
-        const std::size_t units = std::min(std::size(piece), bytes.size() / 2);
-        for (std::size_t i = 0; i < units; ++i)
-            piece[i] = static_cast<wchar>(bytes[2 * i] | bytes[2 * i + 1] << 8);
-        out.write(piece, units);
-        bytes = bytes.subspan(2 * units);
-    }
-}
-
 } // namespace
 
 void unit_registration_xml(payload_cursor& in, ui::event::xml_output& out)
@@ -85,6 +68,8 @@ render::colour multicast_port_failure_text(payload_cursor& in, ui::event::text_o
 {
     const std::uint16_t count = in.read_u16();
     out << "Multicast Port Failure: ";
+    // The size rule of the event has already matched the count against the
+    // payload, so the message may be as long as it says.
     write_utf16le(out, in.take(2 * std::size_t(count)));
     return render::colours::failure;
 }

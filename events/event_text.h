@@ -71,12 +71,3 @@ void write_result_element_if_any(Out& out, wstring_view text, std::string_view i
     if (!text.empty())
         write_result_element(out, text, indent);
 }
-
-// An element on a line of its own on the XML stream: <name>value</name> and
-// a line break.
-template <class Value>
-void write_element_line(ui::event::xml_output& out, std::string_view name, const Value& value)
-{
-    out.element(name, value);
-    out << "\n";
-}

@@ -11,8 +11,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "core/event_types.h"
 #include "events/alarm_type_map.h"
+#include "module/event_types.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <type_traits>
 
 #include "core/enum_eventui.h"
-#include "core/event_types.h"
+#include "core/module_lock.h"
 #include "events/alarm_type_map.h"
-#include "module/module_lock.h"
+#include "module/event_types.h"
 #include "moniker/kor_moniker_factory.h"
 
 static_assert(std::is_same_v<::EventXmlRenderer, decltype(EVENTUI::xmlRenderer)>,

@@ -6,7 +6,7 @@
 
 #include "core/boundary.h"
 #include "core/interface_map.h"
-#include "module/module_lock.h"
+#include "core/module_lock.h"
 #include "moniker/kor_name_parser.h"
 #include "moniker/kor_name_printer.h"
 #include "moniker/kor_name_stream.h"

@@ -6,8 +6,8 @@
 #include <servprov.h>
 
 #include "core/com_ptr.h"
+#include "core/ref_count.h"
 #include "korps/korps_interfaces.h"
-#include "module/ref_count.h"
 #include "moniker/kor_name.h"
 
 class CKorMoniker final : public IMoniker, public IKorMoniker {

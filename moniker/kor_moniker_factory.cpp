@@ -1,6 +1,7 @@
 #include "moniker/kor_moniker_factory.h"
 
 #include "core/interface_map.h"
+#include "core/module_lock.h"
 
 namespace {
 
@@ -24,6 +25,79 @@ CFactory& CFactory::Instance() noexcept
 HRESULT CFactory::QueryInterface(REFIID riid, void** ppv)
 {
     return query_interface(this, interfaces, riid, ppv);
+}
+
+// The first outside reference locks the module, the last unlocks it; the
+// object itself is never deleted.
+ULONG CFactory::AddRef()
+{
+    const ULONG count = refs_.add();
+    if (count == 1)
+        module::lock();
+    return count;
+}
+
+ULONG CFactory::Release()
+{
+    return refs_.release([] { module::unlock(); });
+}
+
+HRESULT CFactory::CreateInstance(IUnknown* pUnkOuter, REFIID riid, void** ppvObject)
+{
+    if (!ppvObject)
+        return E_POINTER;
+    *ppvObject = nullptr;
+    if (pUnkOuter)
+        return CLASS_E_NOAGGREGATION;
+    return Hand(CKorMoniker::New(), riid, ppvObject);
+}
+
+HRESULT CFactory::LockServer(BOOL fLock)
+{
+    if (fLock)
+        module::lock();
+    else
+        module::unlock();
+    return S_OK;
+}
+
+HRESULT CFactory::ParseDisplayName(IBindCtx*, LPOLESTR pszDisplayName, ULONG* pchEaten, IMoniker** ppmkOut)
+{
+    if (!pchEaten || !ppmkOut)
+        return E_POINTER;
+    *ppmkOut = nullptr;
+    com_ptr<CKorMoniker> moniker = CKorMoniker::New();
+    if (!moniker)
+        return E_OUTOFMEMORY;
+    ULONG eaten = 0;
+    HRESULT result = moniker->Parse(pszDisplayName, &eaten);
+    if (FAILED(result))
+        return result;
+    result = moniker->QueryInterface(IID_IMoniker, reinterpret_cast<void**>(ppmkOut));
+    if (SUCCEEDED(result))
+        *pchEaten = eaten;
+    return result;
+}
+
+HRESULT CFactory::CreateFromStream(IStream* stream, REFIID riid, void** object)
+{
+    if (!object)
+        return E_POINTER;
+    *object = nullptr;
+    com_ptr<CKorMoniker> moniker = CKorMoniker::New();
+    if (!moniker)
+        return E_OUTOFMEMORY;
+    const HRESULT result = moniker->Load(stream);
+    if (FAILED(result))
+        return result;
+    return moniker->QueryInterface(riid, object);
+}
+
+HRESULT CFactory::Hand(com_ptr<CKorMoniker> moniker, REFIID riid, void** ppv) noexcept
+{
+    if (!moniker)
+        return E_OUTOFMEMORY;
+    return moniker->QueryInterface(riid, ppv);
 }
 
 HRESULT CFactory::Create(const KorName& name, IMoniker** moniker) noexcept

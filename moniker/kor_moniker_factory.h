@@ -1,18 +1,34 @@
 // The class object of the "kor:" moniker, which hosts reach through
-// DllGetClassObject or the "kor" scheme.
+// DllGetClassObject or the "kor" scheme. It lives as long as the module and
+// holds a module lock only while somebody outside holds it.
 #pragma once
 
+#include "core/ref_count.h"
 #include "moniker/kor_moniker.h"
-#include "moniker/moniker_factory.h"
 
-class CKorMoniker::CFactory final : public CMonikerFactory<CKorMoniker>, public ICreateKorMoniker {
+class CKorMoniker::CFactory final : public IClassFromStreamFactory,
+                                    public IParseDisplayName,
+                                    public IClassFactory,
+                                    public ICreateKorMoniker {
 public:
     // The module's one instance.
     static CFactory& Instance() noexcept;
 
+    // IUnknown
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** ppv) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return CMonikerFactory::AddRef(); }
-    ULONG STDMETHODCALLTYPE Release() override { return CMonikerFactory::Release(); }
+    ULONG STDMETHODCALLTYPE AddRef() override;
+    ULONG STDMETHODCALLTYPE Release() override;
+
+    // IClassFactory: a moniker of the class's initial value.
+    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* pUnkOuter, REFIID riid, void** ppvObject) override;
+    HRESULT STDMETHODCALLTYPE LockServer(BOOL fLock) override;
+
+    // IParseDisplayName: a moniker for the name at the start of the text.
+    HRESULT STDMETHODCALLTYPE ParseDisplayName(IBindCtx* pbc, LPOLESTR pszDisplayName, ULONG* pchEaten,
+                                               IMoniker** ppmkOut) override;
+
+    // IClassFromStreamFactory: a moniker loaded from the stream.
+    HRESULT STDMETHODCALLTYPE CreateFromStream(IStream* stream, REFIID riid, void** object) override;
 
     // ICreateKorMoniker
     HRESULT STDMETHODCALLTYPE CreateMacMoniker(const BYTE address[6], IMoniker** moniker) override;
@@ -24,6 +40,12 @@ public:
 private:
     CFactory() noexcept = default;
 
+    // Hands out `riid` of a new moniker; the moniker goes again when the
+    // interface is refused.
+    static HRESULT Hand(com_ptr<CKorMoniker> moniker, REFIID riid, void** ppv) noexcept;
+
     // A new moniker naming `name`, as IMoniker.
     static HRESULT Create(const KorName& name, IMoniker** moniker) noexcept;
+
+    module::ref_count refs_;
 };

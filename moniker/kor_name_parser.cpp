@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "core/boundary.h"
+#include "core/text_reader.h"
 #include "devices/device_types.h"
-#include "moniker/text_reader.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "core/event_types.h"
+#include "module/event_types.h"
 #include "tests/native/test_text.h"
 
 namespace {

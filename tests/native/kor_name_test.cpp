@@ -8,11 +8,11 @@
 #include <vector>
 
 #include "core/boundary.h"
+#include "core/text_tokens.h"
 #include "moniker/kor_name.h"
 #include "moniker/kor_name_parser.h"
 #include "moniker/kor_name_printer.h"
 #include "moniker/kor_name_stream.h"
-#include "moniker/text_tokens.h"
 #include "tests/native/test_text.h"
 
 namespace {

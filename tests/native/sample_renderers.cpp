@@ -1,6 +1,6 @@
 // The native tests take the renderers straight from the event type table.
-#include "core/event_types.h"
 #include "events/alarm_type_map.h"
+#include "module/event_types.h"
 #include "tests/common/sample_check.h"
 #include "tests/native/test_text.h"
 

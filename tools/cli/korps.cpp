@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "core/event_types.h"
 #include "core/platform.h"
 #include "events/alarm_type_map.h"
+#include "module/event_types.h"
 #include "tools/sample_file.h"
 
 namespace {

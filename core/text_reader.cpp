@@ -1,4 +1,4 @@
-#include "moniker/text_reader.h"
+#include "core/text_reader.h"
 
 namespace {
 

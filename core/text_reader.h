@@ -10,8 +10,8 @@
 #include <string_view>
 
 #include "core/errors.h"
+#include "core/text_tokens.h"
 #include "core/wide.h"
-#include "moniker/text_tokens.h"
 
 // Whether `wide` spells `ascii` exactly, one unit per character.
 bool ascii_equal(wstring_view wide, std::string_view ascii) noexcept;

@@ -4,7 +4,7 @@
 
 #include <atomic>
 
-#include "module/module_lock.h"
+#include "core/module_lock.h"
 
 namespace module {
 

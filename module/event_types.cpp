@@ -1,4 +1,4 @@
-#include "core/event_types.h"
+#include "module/event_types.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "module/module_lock.h"
+#include "core/module_lock.h"
 
 #include <atomic>
 
