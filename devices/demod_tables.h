@@ -188,6 +188,26 @@ consteval std::span<const OptionEntry> rows_through(std::span<const OptionEntry>
     throw std::logic_error("rows_through: value not in table");
 }
 
+// Lookup takes the first match, so no row may hide another.
+static_assert(values_unique(alarm_state));
+static_assert(values_unique(enable));
+static_assert(values_unique(alarm_mask));
+static_assert(values_unique(unread_flag));
+static_assert(values_unique(installed));
+static_assert(values_unique(lock_state));
+static_assert(values_unique(inversion));
+static_assert(values_unique(modulation));
+static_assert(values_unique(fec_type));
+static_assert(values_unique(fec_rate));
+static_assert(values_unique(scrambler));
+static_assert(values_unique(lnb_power));
+static_assert(values_unique(config_slot));
+static_assert(values_unique(sample_interval));
+static_assert(values_unique(external_reference));
+static_assert(values_unique(band));
+static_assert(values_unique(unit_kind));
+static_assert(values_unique(roll_off));
+
 } // namespace demod_options
 
 // The tables one record layout shows its coded fields with.

@@ -81,6 +81,8 @@ inline constexpr OptionEntry DeviceTypeKeys[] = {
     OPTION("gull", device_types::gull),
 };
 static_assert(std::size(DeviceTypeKeys) == 29, "one row per known device type");
+static_assert(values_unique(DeviceTypeKeys), "one row per code");
+static_assert(texts_unique_lower_case(DeviceTypeKeys), "keys are display-name type words");
 
 // The key of an event's device type byte, or "(invalid)" for a code we do not know.
 constexpr const wchar* device_type_name(std::uint8_t type) noexcept

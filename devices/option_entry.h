@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "core/wide.h"
 
@@ -44,4 +45,43 @@ constexpr const OptionEntry* find_option(std::span<const OptionEntry> table, Val
         if (static_cast<Value>(row.value) == value)
             return &row;
     return nullptr;
+}
+
+// Checks of constant tables, for static_assert next to each table.
+
+// No row is shadowed by an earlier one with the same value: lookup takes the
+// first match.
+consteval bool values_unique(std::span<const OptionEntry> table)
+{
+    for (std::size_t i = 0; i < table.size(); ++i)
+        for (std::size_t j = i + 1; j < table.size(); ++j)
+            if (table[i].value == table[j].value)
+                return false;
+    return true;
+}
+
+// Texts differ from row to row and contain no upper-case letter.
+consteval bool texts_unique_lower_case(std::span<const OptionEntry> table)
+{
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const std::string_view text = table[i].narrow;
+        for (char ch : text)
+            if (ch >= 'A' && ch <= 'Z')
+                return false;
+        for (std::size_t j = i + 1; j < table.size(); ++j)
+            if (text == table[j].narrow)
+                return false;
+    }
+    return true;
+}
+
+// Unit rows go from the base unit (multiplier 1) upward.
+consteval bool rising_from_one(std::span<const UnitEntry> table)
+{
+    if (table.empty() || table.front().multiplier != 1)
+        return false;
+    for (std::size_t i = 1; i < table.size(); ++i)
+        if (table[i].multiplier <= table[i - 1].multiplier)
+            return false;
+    return true;
 }

@@ -39,4 +39,8 @@ inline constexpr UnitEntry current[] = {UNIT("mA", 1)};
 // For the LNB LO frequency: always shown in megahertz, however large.
 inline constexpr UnitEntry fixed_megahertz[] = {UNIT("MHz", 1)};
 
+static_assert(rising_from_one(frequency) && rising_from_one(data_rate) && rising_from_one(symbol_rate) &&
+              rising_from_one(level) && rising_from_one(ratio) && rising_from_one(current) &&
+              rising_from_one(fixed_megahertz));
+
 } // namespace units

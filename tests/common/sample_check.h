@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "core/platform.h"
 #include "core/renderer.h"
 #include "tools/sample_file.h"
 
@@ -30,12 +31,9 @@ struct renderers {
     EventTextRenderer text = nullptr;
 };
 
-// Each test program supplies these three: where its renderers come from, how
-// it reads the thread's error object (its description, taken from the
-// thread; empty when there is none), and how it registers the samples' alarm
-// types with the module.
+// Each test program supplies these two: where its renderers come from and
+// how it registers the samples' alarm types with the module.
 renderers find_renderers(const GUID& id);
-std::string take_error_description();
 void register_alarm_types();
 
 struct outcome {
@@ -59,7 +57,7 @@ inline outcome render(const renderers& r, bool text, const std::vector<std::uint
     const auto units = static_cast<std::uint32_t>(capacity);
     const HRESULT result = text ? r.text(nullptr, bytes, payload.data(), buffer.data(), units, &colour)
                                 : r.xml(nullptr, bytes, payload.data(), buffer.data(), units);
-    outcome o{result, {}, colour, take_error_description(), true};
+    outcome o{result, {}, colour, platform::take_error_description(), true};
     for (std::size_t i = capacity; i < buffer.size(); ++i)
         o.intact = o.intact && buffer[i] == canary;
     if (capacity > 0 && buffer[0] != canary) {

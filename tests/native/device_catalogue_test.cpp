@@ -1,16 +1,13 @@
-// The constant catalogue: device type keys, demodulator value texts per
-// record layout, and unit tables.
+// The constant catalogue as lookups see it: device type keys and the
+// demodulator value texts of each record layout. The tables' own invariants
+// are checked where they are defined, when the module is compiled.
 #include <gtest/gtest.h>
 
-#include <cctype>
 #include <cstdint>
-#include <set>
 #include <span>
-#include <string>
 
 #include "devices/demod_tables.h"
 #include "devices/device_types.h"
-#include "devices/unit_tables.h"
 
 namespace {
 
@@ -26,21 +23,6 @@ TEST(DeviceTypeKeys, NameOfTypeByte)
     };
     for (const auto& c : cases)
         EXPECT_EQ(text(device_type_name(c.type)), text(c.key)) << "type " << int(c.type);
-}
-
-// Keys double as the type word of a display name: lower case, one per code.
-TEST(DeviceTypeKeys, KeysLowerCaseCodesAndKeysUnique)
-{
-    std::set<std::uint32_t> codes;
-    std::set<std::string> keys;
-    for (const OptionEntry& row : DeviceTypeKeys) {
-        const std::string key = row.narrow;
-        for (char ch : key)
-            EXPECT_FALSE(std::isupper(static_cast<unsigned char>(ch))) << key;
-        EXPECT_LE(row.value, 0xFFu) << key;
-        EXPECT_TRUE(codes.insert(row.value).second) << key;
-        EXPECT_TRUE(keys.insert(key).second) << key;
-    }
 }
 
 using table_of = std::span<const OptionEntry> demod_value_tables::*;
@@ -81,54 +63,6 @@ TEST(DemodTables, LayoutSpecificTexts)
     for (const auto& c : cases)
         EXPECT_EQ(text(lookup_option(c.layout->*c.table, c.value)), text(c.expected))
             << "layout " << (c.layout == r1 ? 1 : c.layout == r2 ? 2 : 3) << ", value " << int(c.value);
-}
-
-const std::span<const OptionEntry> all_option_tables[] = {
-    DeviceTypeKeys,
-    demod_options::alarm_state,
-    demod_options::enable,
-    demod_options::alarm_mask,
-    demod_options::unread_flag,
-    demod_options::installed,
-    demod_options::lock_state,
-    demod_options::inversion,
-    demod_options::modulation,
-    demod_options::fec_type,
-    demod_options::fec_rate,
-    demod_options::scrambler,
-    demod_options::lnb_power,
-    demod_options::config_slot,
-    demod_options::sample_interval,
-    demod_options::external_reference,
-    demod_options::band,
-    demod_options::unit_kind,
-    demod_options::roll_off,
-};
-
-// No row is shadowed by an earlier one with the same value (lookup takes
-// the first match).
-TEST(OptionTables, EveryValueOnce)
-{
-    for (const auto& table : all_option_tables) {
-        std::set<std::uint32_t> values;
-        for (const OptionEntry& row : table)
-            EXPECT_TRUE(values.insert(row.value).second) << row.narrow;
-    }
-}
-
-TEST(UnitTables, RisingMultipliersFromOne)
-{
-    const std::span<const UnitEntry> tables[] = {
-        units::frequency, units::data_rate, units::symbol_rate,    units::level,
-        units::ratio,     units::current,   units::fixed_megahertz,
-    };
-    for (const auto& table : tables) {
-        ASSERT_FALSE(table.empty());
-        EXPECT_EQ(table.front().multiplier, 1u) << table.front().narrow;
-        for (std::size_t i = 1; i < table.size(); ++i)
-            EXPECT_GT(table[i].multiplier, table[i - 1].multiplier) << table[i].narrow;
-    }
-    EXPECT_EQ(units::frequency[4].multiplier, 1'000'000'000'000u);
 }
 
 } // namespace

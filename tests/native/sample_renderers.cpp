@@ -6,11 +6,6 @@
 
 namespace sample_check {
 
-std::string take_error_description()
-{
-    return ::take_error_description();
-}
-
 void register_alarm_types()
 {
     samples::register_alarm_types(&RegisterAlarmTypeMap);

@@ -19,12 +19,6 @@ inline std::string utf8(const wchar* text)
     return utf8(wstring_view(text));
 }
 
-// The description of the calling thread's error object, taken from the thread.
-inline std::string take_error_description()
-{
-    return platform::take_error_description();
-}
-
 // What `write` puts into a fresh stream of the given kind, as UTF-8.
 template <class Stream = ui::event::text_output, class Write>
 std::string written(Write&& write)

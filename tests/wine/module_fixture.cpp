@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/platform.h"
 
 korps_module& korps_module::get()
 {
@@ -20,7 +19,3 @@ korps_module::korps_module() : module_(LoadLibraryW(L"korps.dll"))
     DllGetClassObject = export_named<decltype(DllGetClassObject)>("DllGetClassObject");
 }
 
-std::string take_error_description()
-{
-    return platform::take_error_description();
-}

@@ -25,7 +25,3 @@ private:
     korps_module();
     HMODULE module_;
 };
-
-// The calling thread's error object description, taken from the thread;
-// empty when there is none.
-std::string take_error_description();

@@ -22,7 +22,7 @@ TEST(Platform, ComErrorNamesTheSystemsMessage)
 TEST(Platform, ErrorObjectReachesTheThread)
 {
     EXPECT_EQ(guarded([]() -> HRESULT { throw io::underflow(); }), DISP_E_EXCEPTION);
-    EXPECT_EQ(take_error_description(), "an underflow occured");
+    EXPECT_EQ(platform::take_error_description(), "an underflow occured");
 
     // A carried error object travels unchanged.
     ICreateErrorInfo* creator = nullptr;
@@ -33,7 +33,7 @@ TEST(Platform, ErrorObjectReachesTheThread)
     creator->Release();
     EXPECT_EQ(guarded([&]() -> HRESULT { throw com::error(STG_E_INCOMPLETE, info); }), STG_E_INCOMPLETE);
     info->Release();
-    EXPECT_EQ(take_error_description(), "stream broke");
+    EXPECT_EQ(platform::take_error_description(), "stream broke");
 }
 
 TEST(Platform, NarrowTextIsWidenedWithTheAnsiCodePage)
@@ -65,7 +65,7 @@ TEST(Platform, Utf8ConversionStaysInItsBuffer)
 TEST(Platform, DescriptionsAreUtf8)
 {
     EXPECT_EQ(guarded([]() -> HRESULT { throw std::runtime_error("caf\xC3\xA9"); }), DISP_E_EXCEPTION);
-    EXPECT_EQ(take_error_description(), "caf\xC3\xA9");
+    EXPECT_EQ(platform::take_error_description(), "caf\xC3\xA9");
 }
 
 } // namespace

@@ -7,11 +7,6 @@
 
 namespace sample_check {
 
-std::string take_error_description()
-{
-    return ::take_error_description();
-}
-
 void register_alarm_types()
 {
     samples::register_alarm_types(korps_module::get().RegisterAlarmTypeMap);
