@@ -23,7 +23,7 @@ constexpr const std::string_view* coded_name(const std::string_view (&names)[N],
                                                                        : nullptr;
 }
 
-// ---- Result codes ----------------------------------------------------------
+// --- Result codes -----------------------------------------------------------
 
 // A command's signed result code; a failed command (negative code) is
 // followed by the error text that explains it.
@@ -69,7 +69,7 @@ void write_outcome(Out& out, const command_result<Text>& result, const outcome_w
 inline constexpr std::string_view failed_result_element_open = "\t\t<result code='failed'>\"";
 inline constexpr std::string_view failed_result_element_close = "\"</result>\n";
 
-// ---- Reset types -----------------------------------------------------------
+// --- Reset types ------------------------------------------------------------
 
 inline constexpr std::string_view reset_type_names[] = {"Hard", "Soft", "Firm"};
 
@@ -94,7 +94,7 @@ Out& operator<<(Out& out, const reset_type& type)
     return out << type.wording.unknown_open << decimal(type.code) << type.wording.unknown_close;
 }
 
-// ---- Blind mode --------------------------------------------------------------
+// --- Blind mode -------------------------------------------------------------
 
 // A u32 flag: any non-zero value means the command went out in blind mode.
 inline bool read_blind_mode(payload_cursor& in)

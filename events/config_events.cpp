@@ -20,7 +20,7 @@ using ui::event::xml_output;
 // payload leaves an empty buffer. Braced initialisers run left to right, so
 // the readers below take the fields in payload order.
 
-// --- Outcomes -----------------------------------------------------------------
+// --- Outcomes ---------------------------------------------------------------
 
 // The newer events end in a result code and, after a failure, its error text.
 using outcome = command_result<payload_text>;
@@ -54,7 +54,7 @@ void write_failure_line(xml_output& out, const outcome& result)
         write_element_line(out, "Failure", result.error.view());
 }
 
-// --- Unit property switches ------------------------------------------------
+// --- Unit property switches -------------------------------------------------
 
 // The four switches of a unit's properties, in payload order, with the label
 // of the text form and the element of the XML form.
@@ -79,7 +79,7 @@ std::array<bool, unit_switches.size()> read_unit_switches(payload_cursor& in)
     return on;
 }
 
-// --- Upgrades ----------------------------------------------------------------
+// --- Upgrades ---------------------------------------------------------------
 
 // The image sent to the units and the transfer rate, shown divided by 1000.
 struct upgrade {
@@ -101,7 +101,7 @@ struct upgrade {
     }
 };
 
-// --- Carrier modes -----------------------------------------------------------
+// --- Carrier modes ----------------------------------------------------------
 
 constexpr std::uint32_t carrier_mode_bits = 0xF0;
 
@@ -124,7 +124,7 @@ struct device_properties {
     const OptionEntry* carrier_row() const noexcept { return find_option(carrier_modes, carrier); }
 };
 
-// --- Property records of the newer units -------------------------------------
+// --- Property records of the newer units ------------------------------------
 
 struct unit_properties {
     std::uint32_t address;
@@ -189,7 +189,7 @@ struct unit_properties_v32 {
 
 } // namespace
 
-// --- Corvane Unit Properties Saved -------------------------------------------
+// --- Corvane Unit Properties Saved ------------------------------------------
 
 void corvane_unit_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
@@ -211,7 +211,7 @@ colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
     return inventory;
 }
 
-// --- Unit Properties Saved ---------------------------------------------------
+// --- Unit Properties Saved --------------------------------------------------
 
 void unit_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
@@ -233,7 +233,7 @@ colour unit_properties_saved_text(payload_cursor& in, text_output& out)
     return end_with_outcome(out, p.result, inventory);
 }
 
-// --- GULL Properties Saved ---------------------------------------------------
+// --- GULL Properties Saved --------------------------------------------------
 
 void gull_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
@@ -250,7 +250,7 @@ colour gull_properties_saved_text(payload_cursor& in, text_output& out)
     return end_with_outcome(out, p.result, inventory);
 }
 
-// --- Corvane Register Network ID ---------------------------------------------
+// --- Corvane Register Network ID --------------------------------------------
 
 void register_network_id_xml(payload_cursor& in, xml_output& out)
 {
@@ -264,7 +264,7 @@ colour register_network_id_text(payload_cursor& in, text_output& out)
     return command;
 }
 
-// --- Corvane Unit Paramfile Write --------------------------------------------
+// --- Corvane Unit Paramfile Write -------------------------------------------
 
 void paramfile_write_xml(payload_cursor& in, xml_output& out)
 {
@@ -280,7 +280,7 @@ colour paramfile_write_text(payload_cursor& in, text_output& out)
     return command;
 }
 
-// --- Corvane Unit Paramfile Autosave -----------------------------------------
+// --- Corvane Unit Paramfile Autosave ----------------------------------------
 
 void paramfile_autosave_xml(payload_cursor& in, xml_output& out)
 {
@@ -294,7 +294,7 @@ colour paramfile_autosave_text(payload_cursor& in, text_output& out)
     return failed ? failure : green;
 }
 
-// --- Corvane Unit Upgrade, Corvane Multiple Unit Upgrade ---------------------
+// --- Corvane Unit Upgrade, Corvane Multiple Unit Upgrade --------------------
 
 void unit_upgrade_xml(payload_cursor& in, xml_output& out)
 {
@@ -334,7 +334,7 @@ colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
     return end_with_outcome(out, result, command);
 }
 
-// --- Heartbeat Toggled -------------------------------------------------------
+// --- Heartbeat Toggled ------------------------------------------------------
 
 void heartbeat_toggled_xml(payload_cursor& in, xml_output& out)
 {
@@ -353,7 +353,7 @@ colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
     return end_with_outcome(out, h.result, command);
 }
 
-// --- Auto Home-state Timeout Changed -----------------------------------------
+// --- Auto Home-state Timeout Changed ----------------------------------------
 
 void home_state_timeout_changed_xml(payload_cursor& in, xml_output& out)
 {
@@ -369,7 +369,7 @@ colour home_state_timeout_changed_text(payload_cursor& in, text_output& out)
     return end_with_outcome(out, h.result, command);
 }
 
-// --- Corvane Manager Properties Saved ----------------------------------------
+// --- Corvane Manager Properties Saved ---------------------------------------
 
 void manager_properties_saved_xml(payload_cursor& in, text_output& out)
 {
@@ -391,7 +391,7 @@ colour manager_properties_saved_text(payload_cursor& in, text_output& out)
     return inventory;
 }
 
-// --- Corvane Unit Properties Saved Orrin 3.2 ---------------------------------
+// --- Corvane Unit Properties Saved Orrin 3.2 --------------------------------
 
 void unit_properties_saved_v32_xml(payload_cursor& in, text_output& out)
 {
@@ -413,7 +413,7 @@ colour unit_properties_saved_v32_text(payload_cursor& in, text_output& out)
     return inventory;
 }
 
-// --- Corvane Device Properties Saved -----------------------------------------
+// --- Corvane Device Properties Saved ----------------------------------------
 
 void device_properties_saved_xml(payload_cursor& in, text_output& out)
 {
@@ -438,7 +438,7 @@ colour device_properties_saved_text(payload_cursor& in, text_output& out)
     return inventory;
 }
 
-// --- Corvane Modem Flag ------------------------------------------------------
+// --- Corvane Modem Flag -----------------------------------------------------
 
 // The two forms read the payload differently, and each is kept as servers
 // already record it: the text form takes a result code after the two leading
@@ -463,7 +463,7 @@ colour modem_flag_text(payload_cursor& in, text_output& out)
     return inventory;
 }
 
-// --- Demodulator Failed Event ------------------------------------------------
+// --- Demodulator Failed Event -----------------------------------------------
 
 colour demodulator_failed_text(payload_cursor&, text_output& out)
 {

@@ -14,7 +14,7 @@ void write_bracketed(Out& out, designation unit)
     out << "[" << unit << "] ";
 }
 
-// ---- Units joining or leaving the network (5-byte payloads) ------------------
+// --- Units joining or leaving the network (5-byte payloads) -----------------
 
 render::colour write_membership_text(payload_cursor& in, ui::event::text_output& out, std::string_view change)
 {
@@ -23,7 +23,7 @@ render::colour write_membership_text(payload_cursor& in, ui::event::text_output&
     return inventory;
 }
 
-// ---- Units moved between networks: network ID, then the unit ----------------
+// --- Units moved between networks: network ID, then the unit ----------------
 
 struct unit_move {
     std::uint8_t network;
@@ -134,7 +134,7 @@ render::colour unit_inserted_v32_text(payload_cursor& in, ui::event::text_output
     return inventory;
 }
 
-// ---- Network-wide notices: a sentence and an optional result text -----------
+// --- Network-wide notices: a sentence and an optional result text -----------
 
 struct network_notice {
     std::string_view sentence;

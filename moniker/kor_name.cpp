@@ -38,13 +38,13 @@ constexpr KorWord device_ex_words[] = {&KorName::deviceType, &KorName::address, 
                                        &KorName::idValue};
 constexpr KorWord transponder_words[] = {&KorName::transponder};
 
-struct Form {
+struct kind_form {
     std::span<const KorWord> words;
     std::uint32_t (*hash)(const KorName&) noexcept;
 };
 
 // Indexed by kind.
-constexpr Form forms[] = {
+constexpr kind_form forms[] = {
     {{}, mac_hash},
     {device_words, device_hash},
     {device_ex_words, device_ex_hash},

@@ -59,12 +59,12 @@ void read_mac(text_reader& in, KorName& name)
     }
 }
 
-struct IdentifierForm {
+struct identifier_form {
     std::string_view identifier;   // matched case-sensitively and whole
     void (*read)(text_reader&, KorName&);
 };
 
-constexpr IdentifierForm identifier_forms[] = {
+constexpr identifier_form identifier_forms[] = {
     {"transponder", read_transponder},
     {"mac", read_mac},
 };
@@ -73,7 +73,7 @@ void read_identifier_form(text_reader& in, KorName& name)
 {
     const wstring_view identifier = in.read_identifier();
     in.expect<char[2]>("-");
-    for (const IdentifierForm& form : identifier_forms) {
+    for (const identifier_form& form : identifier_forms) {
         if (ascii_equal(identifier, form.identifier)) {
             form.read(in, name);
             return;
@@ -96,7 +96,7 @@ std::size_t common_prefix(wstring_view text, std::string_view key) noexcept
     return n;
 }
 
-struct KeyMatch {
+struct key_match {
     const OptionEntry* row = nullptr;
     std::size_t length = 0;
 };
@@ -104,9 +104,9 @@ struct KeyMatch {
 // The device type whose key shares the longest start with the text; an
 // earlier row keeps a tie. A single character is enough, so an abbreviated
 // or misspelt key still names a device, and then fails where it goes wrong.
-KeyMatch match_device_key(wstring_view text) noexcept
+key_match match_device_key(wstring_view text) noexcept
 {
-    KeyMatch best;
+    key_match best;
     for (const OptionEntry& row : DeviceTypeKeys) {
         const std::size_t length = common_prefix(text, std::string_view(row.narrow, row.size - 1));
         if (length > best.length)
@@ -124,7 +124,7 @@ std::optional<parsed_kor_name> read_kor_name(wstring_view text)
         return std::nullopt;
 
     parsed_kor_name parsed{};
-    const KeyMatch key = match_device_key(in.rest());
+    const key_match key = match_device_key(in.rest());
     if (key.row) {
         in.advance(key.length);
         parsed.name.deviceType = key.row->value;

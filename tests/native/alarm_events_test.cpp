@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "devices/device_types.h"
 #include "events/alarm_events.h"
 #include "events/alarm_state.h"
 #include "events/unit_alarm_record.h"
@@ -55,27 +56,27 @@ TEST(UnitAlarmBits, EachBitNamesItsAlarm)
         int bit;
         const char* text;   // what raising the bit reads as
     } cases[] = {
-        {0x34, 0, 3, "+23V alarmed"},
-        {0x35, 3, 2, "G.703 Bipolar Violation alarmed"},
-        {0x34, 5, 1, "Voltage alarmed"},
-        {0x34, 6, 0, ""},   // past the receive group
-        {0x3A, 2, 4, "FPGA DCM Not Locked alarmed"},
-        {0x3A, 4, 5, "Intf Teres Clock No Activity alarmed"},
-        {0x3A, 9, 6, "Power > 20dBm alarmed"},
-        {0x58, 0, 3, ""},   // the packet modem has no +23V rail
-        {0x58, 3, 4, "Tx PaP Ethernet alarmed"},
-        {0x58, 4, 2, ""},
-        {0x58, 5, 0, "LNB Current alarmed"},
-        {0x37, 1, 1, "EEPROM Checksum alarmed"},
-        {0x37, 2, 2, "Device 1: "},   // a slot bit without a name still names the slot
-        {0x37, 6, 4, "Device 3: Rx Buffer Underflow alarmed"},
-        {0x37, 9, 1, "Device 4: LNB Voltage alarmed"},
-        {0x38, 6, 0, ""},   // this chassis has two slots
-        {0x38, 5, 0, "Device 2: LNB Current alarmed"},
-        {0x5E, 0, 5, ""},
-        {0x5E, 0, 7, "Rx 2nd LO synth alarmed"},
-        {0x5E, 8, 7, "Device 4: AIS alarmed"},
-        {0x36, 0, 0, ""},
+        {device_types::fcn1l, 0, 3, "+23V alarmed"},
+        {device_types::fcn1i, 3, 2, "G.703 Bipolar Violation alarmed"},
+        {device_types::fcn1l, 5, 1, "Voltage alarmed"},
+        {device_types::fcn1l, 6, 0, ""},   // past the receive group
+        {device_types::osprey, 2, 4, "FPGA DCM Not Locked alarmed"},
+        {device_types::osprey, 4, 5, "Intf Teres Clock No Activity alarmed"},
+        {device_types::osprey, 9, 6, "Power > 20dBm alarmed"},
+        {device_types::fcn1al, 0, 3, ""},   // the packet modem has no +23V rail
+        {device_types::fcn1al, 3, 4, "Tx PaP Ethernet alarmed"},
+        {device_types::fcn1al, 4, 2, ""},
+        {device_types::fcn1al, 5, 0, "LNB Current alarmed"},
+        {device_types::fcn3l, 1, 1, "EEPROM Checksum alarmed"},
+        {device_types::fcn3l, 2, 2, "Device 1: "},   // a slot bit without a name still names the slot
+        {device_types::fcn3l, 6, 4, "Device 3: Rx Buffer Underflow alarmed"},
+        {device_types::fcn3l, 9, 1, "Device 4: LNB Voltage alarmed"},
+        {device_types::fcn4l, 6, 0, ""},   // this chassis has two slots
+        {device_types::fcn4l, 5, 0, "Device 2: LNB Current alarmed"},
+        {device_types::fcn3al, 0, 5, ""},
+        {device_types::fcn3al, 0, 7, "Rx 2nd LO synth alarmed"},
+        {device_types::fcn3al, 8, 7, "Device 4: AIS alarmed"},
+        {device_types::fcn3i, 0, 0, ""},   // no named alarm bits
     };
     for (const auto& c : cases) {
         const rendered r = text_of(alarm_payload(c.type, std::vector<std::uint8_t>(10, 0), one_bit(c.byte, c.bit)));
@@ -87,7 +88,7 @@ TEST(UnitAlarmBits, EachBitNamesItsAlarm)
 TEST(UnitAlarmRecord, RefusesMasksLongerThanItsBuffers)
 {
     for (const std::uint32_t length : {65u, 0x100u, 0xFFFFFFFFu}) {
-        std::vector<std::uint8_t> payload = {0x34, 0, 0, 0, 0, 0, 0, 0, 0};
+        std::vector<std::uint8_t> payload = {device_types::fcn1l, 0, 0, 0, 0, 0, 0, 0, 0};
         for (int i = 0; i < 4; ++i)
             payload.push_back(static_cast<std::uint8_t>(length >> 8 * i));
         payload.resize(payload.size() + 2 * 0x100, 0);

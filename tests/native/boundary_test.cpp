@@ -13,13 +13,13 @@ class derived_bad_pointer : public bad_pointer {};
 TEST(Boundary, MapsByExactType)
 {
     com::error_info* carried = platform::create_error_info(WSTR("from the stream"));
-    struct Case {
+    struct test_case {
         const char* name;
         std::function<void()> raise;
         HRESULT result;
         const char* description;   // null: no error object
     };
-    const Case cases[] = {
+    const test_case cases[] = {
         {"com::error", [&] { throw com::error(static_cast<HRESULT>(0x80030201), carried); },
          static_cast<HRESULT>(0x80030201), "from the stream"},
         {"win32::error", [] { throw win32::error(0x80005); }, static_cast<HRESULT>(0x800F0005), nullptr},
@@ -34,7 +34,7 @@ TEST(Boundary, MapsByExactType)
         {"plain exception", [] { throw std::exception(); }, DISP_E_EXCEPTION, "std::exception"},
         {"derived from bad_pointer", [] { throw derived_bad_pointer(); }, DISP_E_EXCEPTION, "invalid pointer"},
     };
-    for (const Case& c : cases) {
+    for (const test_case& c : cases) {
         const HRESULT result = guarded([&] {
             c.raise();
             return S_OK;

@@ -141,12 +141,12 @@ TEST(KorNameParse, Failures)
     const std::string dash = "Expected a char [2] with a value of '-'.";
     const std::string sign = "Encountered a char with an enexpected value of '-'.";
     const std::string overflow = "integer overflow";
-    struct Case {
+    struct test_case {
         std::string text;
         HRESULT result;
         std::string description;   // empty: no error object
     };
-    const Case cases[] = {
+    const test_case cases[] = {
         // Not "kor:" at all: refused quietly.
         {"KOR:transponder-5", E_UNEXPECTED, ""},
         {"", E_UNEXPECTED, ""},
@@ -183,7 +183,7 @@ TEST(KorNameParse, Failures)
         {"kor:mac-AABBCCDD-EEFF00", DISP_E_EXCEPTION, "Expected a char with a value of '-'."},
         {"kor:mac-AABBCC-DDEE", DISP_E_EXCEPTION, "Expected a " + hex_u8 + "."},
     };
-    for (const Case& c : cases) {
+    for (const test_case& c : cases) {
         const wstring text = widen(c.text);
         const KorName untouched = transponder(42);
         KorName name = untouched;
@@ -205,11 +205,11 @@ TEST(KorNameParse, NullText)
 
 TEST(KorNamePrint, ValuesNoParseMakes)
 {
-    struct Case {
+    struct test_case {
         KorName name;
         const char* canonical;
     };
-    const Case cases[] = {
+    const test_case cases[] = {
         // Hosts may create names with any 32-bit values; the key is that of
         // the type's low byte.
         {device(0x100 + 52, 0x7F000001), "kor:fcn1l-127.0.0.1"},
@@ -218,7 +218,7 @@ TEST(KorNamePrint, ValuesNoParseMakes)
          "kor:(invalid)-255.255.255.255,4294967295,4294967295"},
         {transponder(4294967295u), "kor:transponder-4294967295"},
     };
-    for (const Case& c : cases)
+    for (const test_case& c : cases)
         EXPECT_EQ(printed(c.name), c.canonical);
 
     // "(invalid)" is not a key: such a name does not read back.
@@ -308,11 +308,11 @@ TEST(KorNameStream, BytesOfEachKind)
 
 TEST(KorNameHash, ValueOfEachKind)
 {
-    struct Case {
+    struct test_case {
         KorName name;
         std::uint32_t hash;
     };
-    const Case cases[] = {
+    const test_case cases[] = {
         {mac({0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C}), 0xB01A2B3Cu ^ 0x0006u},
         {mac({0xFF, 0xEE, 0x00, 0x00, 0x00, 0x00}), 0xFFEEu},
         {device(52, 0x0A000001), 0x0A000035},
@@ -321,7 +321,7 @@ TEST(KorNameHash, ValueOfEachKind)
         {device_ex(0xFF, 0x0A0000F1, 0x100, 0x1000), 0xF1 ^ 0x100 ^ 0x1000},
         {transponder(12), 12},
     };
-    for (const Case& c : cases)
+    for (const test_case& c : cases)
         EXPECT_EQ(kor_name_hash(c.name), c.hash) << printed(c.name);
     EXPECT_EQ(kor_name_hash(of_kind(4)), std::nullopt);
 }
@@ -331,11 +331,11 @@ TEST(KorNameEquality, ComparesTheFieldsOfTheKind)
     KorName other_fields = transponder(5);
     other_fields.deviceType = 52;
     other_fields.mac[0] = 1;
-    struct Case {
+    struct test_case {
         KorName a, b;
         bool equal;
     };
-    const Case cases[] = {
+    const test_case cases[] = {
         {transponder(5), other_fields, true},
         {transponder(5), transponder(6), false},
         {device(52, 1), device_ex(52, 1, 0, 0), false},
@@ -347,7 +347,7 @@ TEST(KorNameEquality, ComparesTheFieldsOfTheKind)
         {mac({1, 2, 3, 4, 5, 6}), mac({1, 2, 3, 4, 5, 7}), false},
         {mac({1, 2, 3, 4, 5, 6}), mac({0, 2, 3, 4, 5, 6}), false},
     };
-    for (const Case& c : cases) {
+    for (const test_case& c : cases) {
         EXPECT_EQ(c.a == c.b, c.equal) << printed(c.a) << " vs " << printed(c.b);
         EXPECT_EQ(c.b == c.a, c.equal) << printed(c.b) << " vs " << printed(c.a);
     }

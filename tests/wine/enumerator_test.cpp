@@ -53,12 +53,12 @@ TEST(Enumerator, HandsOutTheWholeTable)
     const std::vector<EVENTUI> rows = read_all();
     ASSERT_EQ(rows.size(), 40u);
 
-    struct Case {
+    struct test_case {
         std::size_t index;
         const wchar_t* name;
         const wchar_t* id;
     };
-    const Case cases[] = {
+    const test_case cases[] = {
         {0, L"FALCON Data Changed", L"{9F74E20A-4198-4269-BDC7-C0A02BE22131}"},
         {1, L"OSPREY Data Changed", L"{91286A63-5EA9-412A-8021-E9132460F87E}"},
         {2, L"OSPREY Data Changed", L"{6E66E529-AC7C-40DD-BC1D-6A8678996824}"},
@@ -70,7 +70,7 @@ TEST(Enumerator, HandsOutTheWholeTable)
         {36, L"Corvane Unit Properties Saved Orrin 3.2", L"{074642CD-C9AD-4304-8261-598D4C2A00F9}"},
         {39, L"Demodulator Failed Event", L"{074642D0-C9AD-4304-8261-598D4C2A00F9}"},
     };
-    for (const Case& c : cases) {
+    for (const test_case& c : cases) {
         EXPECT_STREQ(rows[c.index].name, c.name) << c.index;
         EXPECT_EQ(guid_text(rows[c.index].eventType), c.id) << c.index;
     }
@@ -90,39 +90,39 @@ TEST(Enumerator, HandsOutTheWholeTable)
 
 TEST(Enumerator, NextAndSkipAtTheEdges)
 {
-    struct Step {
+    struct script_step {
         enum { next, skip, reset } op;
         ULONG count;
         HRESULT result;
         ULONG fetched;     // for next
         int first_row;     // for next: the row of the first record, -1 for none
     };
-    const std::vector<std::vector<Step>> scripts = {
-        {{Step::next, 40, S_OK, 40, 0}, {Step::next, 1, S_FALSE, 0, -1}, {Step::next, 0, S_OK, 0, -1}},
-        {{Step::skip, 38, S_OK, 0, 0}, {Step::next, 5, S_FALSE, 2, 38}},
-        {{Step::next, 0, S_OK, 0, -1}, {Step::next, 1, S_OK, 1, 0}},
-        {{Step::skip, 40, S_OK, 0, 0}, {Step::skip, 0, S_OK, 0, 0}, {Step::skip, 1, S_FALSE, 0, 0}},
-        {{Step::skip, 100, S_FALSE, 0, 0}, {Step::next, 1, S_FALSE, 0, -1}},
-        {{Step::next, 40, S_OK, 40, 0}, {Step::reset, 0, S_OK, 0, 0}, {Step::next, 1, S_OK, 1, 0}},
+    const std::vector<std::vector<script_step>> scripts = {
+        {{script_step::next, 40, S_OK, 40, 0}, {script_step::next, 1, S_FALSE, 0, -1}, {script_step::next, 0, S_OK, 0, -1}},
+        {{script_step::skip, 38, S_OK, 0, 0}, {script_step::next, 5, S_FALSE, 2, 38}},
+        {{script_step::next, 0, S_OK, 0, -1}, {script_step::next, 1, S_OK, 1, 0}},
+        {{script_step::skip, 40, S_OK, 0, 0}, {script_step::skip, 0, S_OK, 0, 0}, {script_step::skip, 1, S_FALSE, 0, 0}},
+        {{script_step::skip, 100, S_FALSE, 0, 0}, {script_step::next, 1, S_FALSE, 0, -1}},
+        {{script_step::next, 40, S_OK, 40, 0}, {script_step::reset, 0, S_OK, 0, 0}, {script_step::next, 1, S_OK, 1, 0}},
     };
     const std::vector<EVENTUI> table = read_all();
     for (std::size_t s = 0; s < scripts.size(); ++s) {
         enumerator e;
-        for (const Step& step : scripts[s]) {
+        for (const script_step& step : scripts[s]) {
             std::array<EVENTUI, 64> records{};
             ULONG fetched = 12345;
             switch (step.op) {
-            case Step::next:
+            case script_step::next:
                 EXPECT_EQ(e->Next(step.count, records.data(), &fetched), step.result) << "script " << s;
                 EXPECT_EQ(fetched, step.fetched) << "script " << s;
                 if (step.first_row >= 0) {
                     EXPECT_EQ(std::memcmp(&records[0], &table[step.first_row], sizeof(EVENTUI)), 0);
                 }
                 break;
-            case Step::skip:
+            case script_step::skip:
                 EXPECT_EQ(e->Skip(step.count), step.result) << "script " << s;
                 break;
-            case Step::reset:
+            case script_step::reset:
                 EXPECT_EQ(e->Reset(), S_OK);
                 break;
             }

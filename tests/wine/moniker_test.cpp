@@ -164,14 +164,14 @@ TEST_F(Moniker, CreateInstance)
 
 TEST_F(Moniker, ParseDisplayName)
 {
-    struct Case {
+    struct test_case {
         const wchar_t* text;
         HRESULT result;
         ULONG eaten;
         const wchar_t* canonical;   // on success
         const char* description;    // of the error object on failure
     };
-    const Case cases[] = {
+    const test_case cases[] = {
         {L"kor:FCN1L-10.0.0.1", S_OK, 18, L"kor:fcn1l-10.0.0.1", ""},
         {L"kor:fcn1l-010.000.000.001,+7,3", S_OK, 30, L"kor:fcn1l-10.0.0.1,7,3", ""},
         {L"kor:none-1.2.3.4!item", S_OK, 16, L"kor:none-1.2.3.4", ""},
@@ -182,7 +182,7 @@ TEST_F(Moniker, ParseDisplayName)
          "Expected a integer<unsigned char, 16, 2, default_tag>."},
     };
     com_ptr<IParseDisplayName> parser = class_object<IParseDisplayName>();
-    for (const Case& c : cases) {
+    for (const test_case& c : cases) {
         SetErrorInfo(0, nullptr);
         ULONG eaten = 0;
         IMoniker* moniker = reinterpret_cast<IMoniker*>(&eaten);

@@ -49,11 +49,11 @@ TEST(Platform, NarrowTextIsWidenedWithTheAnsiCodePage)
 
 TEST(Platform, Utf8ConversionStaysInItsBuffer)
 {
-    struct Case {
+    struct test_case {
         std::size_t size;
         const wchar_t* expected;
     };
-    for (const Case& c : {Case{1, L""}, Case{2, L"c"}, Case{4, L"caf"}, Case{5, L"caf\u00E9"}, Case{9, L"caf\u00E9"}}) {
+    for (const test_case& c : {test_case{1, L""}, test_case{2, L"c"}, test_case{4, L"caf"}, test_case{5, L"caf\u00E9"}, test_case{9, L"caf\u00E9"}}) {
         std::array<wchar_t, 10> buffer;
         buffer.fill(0xCCCC);
         platform::utf8_to_utf16("caf\xC3\xA9", buffer.data(), c.size);
