@@ -1,17 +1,22 @@
-// Any payload, any buffer: every renderer must either render or fail with a
-// result, and never read past the payload or write past the buffer. Under
-// AddressSanitizer a stray access is a crash; the canary after the buffer
-// catches writes that stay inside the allocation.
+// Any payload into any buffer, through every renderer of the event table.
 //
 // Input: byte 0 picks the event type and the form, bytes 1-2 the capacity
-// (and bit 4 of byte 2 names a registered alarm in the payload), the rest is
-// the payload.
-#include <cstdint>
+// (bit 4 of byte 2 puts the registered alarm into the payload), the rest is
+// the payload, copied into an allocation of its own size so that a read past
+// it is caught. Canaries after the buffer catch writes past `capacity`.
+//
+// Invariants: the result is one a renderer documents; an error description is
+// left exactly when the result is DISP_E_EXCEPTION; a success holds a
+// terminated text identical to the rendering into an ample buffer; a failure
+// leaves a terminated prefix of that rendering.
 #include <algorithm>
-#include <cstdlib>
+#include <cstdint>
+#include <memory>
 #include <vector>
 
+#include "core/platform.h"
 #include "events/alarm_type_map.h"
+#include "fuzz/fuzz_check.h"
 #include "module/event_types.h"
 
 namespace {
@@ -24,6 +29,43 @@ const bool alarm_registered = [] {
     return true;
 }();
 
+constexpr wchar canary = 0xA5A5;
+constexpr std::size_t guard = 4;
+constexpr std::size_t ample = 8192;   // above any capacity the input can pick
+
+struct rendering {
+    HRESULT result;
+    std::vector<wchar> buffer;
+    bool described;
+};
+
+rendering render_into(const event_type_row& row, bool text, const std::uint8_t* payload, std::size_t bytes,
+                 std::size_t capacity)
+{
+    rendering r{S_OK, std::vector<wchar>(capacity + guard, canary), false};
+    std::uint32_t colour = 0;
+    const auto size = static_cast<std::uint32_t>(bytes);
+    const auto units = static_cast<std::uint32_t>(capacity);
+    r.result = text ? row.textRenderer(nullptr, size, payload, r.buffer.data(), units, &colour)
+                    : row.xmlRenderer(nullptr, size, payload, r.buffer.data(), units);
+    r.described = !platform::take_error_description().empty();
+    for (std::size_t i = capacity; i < r.buffer.size(); ++i)
+        FUZZ_REQUIRE(r.buffer[i] == canary);
+    return r;
+}
+
+bool documented(HRESULT result)
+{
+    return result == S_OK || result == E_UNEXPECTED || result == E_NOTIMPL || result == E_OUTOFMEMORY ||
+           result == DISP_E_EXCEPTION;
+}
+
+std::size_t terminated_length(const std::vector<wchar>& buffer, std::size_t capacity)
+{
+    const auto end = std::find(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(capacity), wchar(0));
+    return static_cast<std::size_t>(end - buffer.begin());
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -35,28 +77,34 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool text = (data[0] / rows.size()) % 2 == 0 || !row.xmlRenderer;
     const std::size_t capacity = data[1] | (data[2] & 0x0F) << 8;
 
-    // The payload in an allocation of its own, so that reading one byte past
-    // it is caught.
-    std::vector<std::uint8_t> payload(data + 3, data + size);
-    if (alarm_registered && (data[2] & 0x10) && payload.size() >= 18)
-        std::fill(payload.begin() + 2, payload.begin() + 18, 0);
-    constexpr wchar canary = 0xA5A5;
-    std::vector<wchar> buffer(capacity + 4, canary);
-    std::uint32_t colour = 0;
-    const auto bytes = static_cast<std::uint32_t>(payload.size());
-    const auto units = static_cast<std::uint32_t>(capacity);
-    const HRESULT result = text ? row.textRenderer(nullptr, bytes, payload.data(), buffer.data(), units, &colour)
-                                : row.xmlRenderer(nullptr, bytes, payload.data(), buffer.data(), units);
-    for (std::size_t i = capacity; i < buffer.size(); ++i)
-        if (buffer[i] != canary)
-            std::abort();
-    // A success leaves a terminated text inside the buffer.
-    if (result == S_OK) {
-        bool terminated = false;
-        for (std::size_t i = 0; i < capacity && !terminated; ++i)
-            terminated = buffer[i] == 0;
-        if (!terminated)
-            std::abort();
+    const std::size_t bytes = size - 3;
+    const auto payload = std::make_unique<std::uint8_t[]>(bytes);
+    std::copy(data + 3, data + size, payload.get());
+    if (alarm_registered && (data[2] & 0x10) && bytes >= 18)
+        std::fill(payload.get() + 2, payload.get() + 18, 0);
+
+    const rendering r = render_into(row, text, payload.get(), bytes, capacity);
+    FUZZ_REQUIRE(documented(r.result));
+    FUZZ_REQUIRE(r.described == (r.result == DISP_E_EXCEPTION));
+    if (r.result == E_UNEXPECTED) {
+        FUZZ_REQUIRE(capacity == 0 || r.buffer[0] == canary);   // refused before anything was written
+        return 0;
+    }
+
+    const rendering full = render_into(row, text, payload.get(), bytes, ample);
+    const std::size_t full_length = terminated_length(full.buffer, ample);
+    if (capacity == 0) {
+        FUZZ_REQUIRE(r.result != S_OK);
+        return 0;
+    }
+    const std::size_t length = terminated_length(r.buffer, capacity);
+    FUZZ_REQUIRE(length < capacity);
+    FUZZ_REQUIRE(length <= full_length);
+    FUZZ_REQUIRE(std::equal(r.buffer.begin(), r.buffer.begin() + static_cast<std::ptrdiff_t>(length),
+                            full.buffer.begin()));
+    if (r.result == S_OK) {
+        FUZZ_REQUIRE(full.result == S_OK);
+        FUZZ_REQUIRE(length == full_length);
     }
     return 0;
 }
