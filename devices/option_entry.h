@@ -60,6 +60,15 @@ consteval bool values_unique(std::span<const OptionEntry> table)
     return true;
 }
 
+// Row i holds value i: for tables that are also indexed by position.
+consteval bool values_are_positions(std::span<const OptionEntry> table)
+{
+    for (std::size_t i = 0; i < table.size(); ++i)
+        if (table[i].value != i)
+            return false;
+    return true;
+}
+
 // Texts differ from row to row and contain no upper-case letter.
 consteval bool texts_unique_lower_case(std::span<const OptionEntry> table)
 {

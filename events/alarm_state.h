@@ -25,6 +25,7 @@ inline constexpr OptionEntry alarm_state_options[] = {
     OPTION("Limit Fault", 3),
 };
 static_assert(std::size(alarm_state_options) == 4, "one row per alarm state");
+static_assert(values_are_positions(alarm_state_options), "states are looked up by value and by position");
 
 // The row at `position`; a position past the table is an invalid option.
 inline const OptionEntry& alarm_state_option(std::size_t position)

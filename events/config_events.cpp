@@ -110,6 +110,7 @@ constexpr OptionEntry carrier_modes[] = {
     OPTION("SCPC", 0x10),
     OPTION("STDMA", 0x20),
 };
+static_assert(values_unique(carrier_modes));
 
 struct device_properties {
     payload_text name;
