@@ -1,0 +1,40 @@
+// Change sets: what the data-changed events carry. A mask says which sections
+// of the event's list changed; each changed section follows in bit order with
+// its old and new value, in the body layout of its kind.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "core/event_output.h"
+#include "core/payload_cursor.h"
+
+namespace change_sets {
+
+// How a section's old and new value lie in the payload.
+enum class body : std::uint8_t {
+    wide_text,   // i16 count, then that many UTF-16 units; 0 or less is empty
+    byte,        // u8, in decimal
+    unsigned32,  // u32, in decimal
+    signed32,    // i32, in decimal
+    ipv4,        // u32, dotted, most significant byte first
+    routes_a,    // route list of layout A (no old and new value: see routes.h)
+    routes_b,    // route list of layout B
+};
+
+struct section {
+    std::string_view field;   // the `field` attribute, as the event spells it
+    body kind;
+};
+
+struct change_set {
+    std::size_t mask_bytes;   // 1 or 2
+    std::span<const section> sections;
+};
+
+// Reads the mask, then writes a `changed` element for every section whose bit
+// is set, in bit order. Bits past the last section read nothing.
+void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set);
+
+} // namespace change_sets
