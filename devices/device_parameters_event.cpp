@@ -1,13 +1,105 @@
 #include "devices/device_parameters_event.h"
 
-#include "core/text_format.h"
+#include <optional>
+#include <stdexcept>
 
-void device_parameters_changed_xml(payload_cursor&, ui::event::xml_output&)
+#include "core/platform.h"
+#include "core/text_format.h"
+#include "devices/device_types.h"
+#include "devices/family_a_record.h"
+
+namespace {
+
+using family_a::record_kind;
+using family_a::section;
+
+// What the head of the payload selects: a family A record, or a record of a
+// unit family this module does not render.
+struct selection {
+    bool device_record;
+    std::uint8_t device_type;
+    std::uint8_t address;   // device records only
+    std::optional<record_kind> record;
+};
+
+constexpr std::nullopt_t other_family = std::nullopt;
+constexpr record_kind r1_unit{family_a::r1, section::unit};
+constexpr record_kind r1_demodulator{family_a::r1, section::demodulator};
+constexpr record_kind r2{family_a::r2, section::demodulator};
+constexpr record_kind r3_unit{family_a::r3, section::unit};
+constexpr record_kind r3_demodulator{family_a::r3, section::demodulator};
+
+using namespace device_types;
+
+constexpr selection selections[] = {
+    {false, fcn3l, 0, r1_unit},
+    {false, fcn4l, 0, r1_unit},
+    {false, fcn3al, 0, r3_unit},
+    {true, fcn3l, 207, r1_demodulator},
+    {true, fcn4l, 207, r1_demodulator},
+    {true, fcn3l, 205, r2},
+    {true, fcn4l, 205, r2},
+    {true, fcn3al, 207, r3_demodulator},
+    {false, fcn1l, 0, other_family},
+    {false, fcn1i, 0, other_family},
+    {false, osprey, 0, other_family},
+    {false, fcn1al, 0, other_family},
+    {true, fcn1l, 202, other_family},
+    {true, fcn1l, 203, other_family},
+    {true, fcn1i, 200, other_family},
+    {true, fcn1i, 201, other_family},
+    {true, osprey, 1, other_family},
+    {true, osprey, 2, other_family},
+    {true, fcn1al, 222, other_family},
+    {true, fcn1al, 223, other_family},
+    {true, fcn3al, 227, other_family},
+};
+
+[[noreturn]] void refuse_other_family()
 {
-    throw not_implemented();
+    com::error_info* info = platform::create_error_info(WSTR("the parameter records of this unit family are not supported"));
+    const com::error error(E_NOTIMPL, info);
+    platform::release(info);
+    throw error;
 }
 
-render::colour device_parameters_changed_text(payload_cursor&, ui::event::text_output&)
+// Reads the record kind, the device type and, for a device record, the
+// device address, and names the record that follows.
+record_kind select(payload_cursor& in)
 {
-    throw not_implemented();
+    const bool device_record = in.read_u8() != 0;
+    const std::uint8_t type = in.read_u8();
+    const std::uint8_t address = device_record ? in.read_u8() : 0;
+    bool type_known = false;
+    for (const selection& s : selections) {
+        if (s.device_record != device_record || s.device_type != type)
+            continue;
+        type_known = true;
+        if (device_record && s.address != address)
+            continue;
+        if (!s.record)
+            refuse_other_family();
+        return *s.record;
+    }
+    if (!device_record)
+        throw std::runtime_error("invalid unit type");
+    if (type_known && type == osprey)
+        throw std::runtime_error("invalid osprey device address");
+    throw std::runtime_error("invalid device type");
+}
+
+} // namespace
+
+void device_parameters_changed_xml(payload_cursor& in, ui::event::xml_output& out)
+{
+    bool first = true;
+    family_a::write_changes(in, out, select(in), first);
+}
+
+render::colour device_parameters_changed_text(payload_cursor& in, ui::event::text_output& out)
+{
+    bool first = true;
+    family_a::write_changes(in, out, select(in), first);
+    out << ".";
+    return render::colours::command;
 }
