@@ -1,0 +1,219 @@
+// The module's registry scripts through the registrar, on a registry held in
+// memory: what registration writes, what removal leaves, and how malformed
+// scripts and failing registries are reported.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "module/registrar.h"
+#include "tests/native/test_text.h"
+
+namespace {
+
+// Keys by path, compared without regard to case as the registry does.
+class memory_hive final : public registry::hive {
+public:
+    std::map<std::string, std::map<std::string, std::string>> keys;
+    int writes_before_failure = -1;   // -1: never fail
+
+    HRESULT create_key(wstring_view path) override
+    {
+        if (!write())
+            return E_FAIL;
+        for (std::size_t cut = 0; cut != wstring_view::npos;) {
+            cut = path.find(wchar('\\'), cut + 1);
+            keys[lower(path.substr(0, cut))];
+        }
+        return S_OK;
+    }
+    HRESULT set_value(wstring_view path, wstring_view name, wstring_view data) override
+    {
+        if (!write())
+            return E_FAIL;
+        keys.at(lower(path))[utf8(name)] = utf8(data);
+        return S_OK;
+    }
+    HRESULT delete_value(wstring_view path, wstring_view name) override
+    {
+        if (const auto k = keys.find(lower(path)); k != keys.end())
+            k->second.erase(utf8(name));
+        return S_OK;
+    }
+    HRESULT delete_tree(wstring_view path) override
+    {
+        const std::string top = lower(path);
+        std::erase_if(keys, [&](const auto& k) { return k.first == top || k.first.starts_with(top + "\\"); });
+        return S_OK;
+    }
+    HRESULT delete_if_empty(wstring_view path) override
+    {
+        const std::string top = lower(path);
+        const auto k = keys.find(top);
+        const bool has_subkeys = std::any_of(keys.begin(), keys.end(),
+                                             [&](const auto& other) { return other.first.starts_with(top + "\\"); });
+        if (k != keys.end() && k->second.empty() && !has_subkeys)
+            keys.erase(k);
+        return S_OK;
+    }
+
+    // Every key and value, one a line, for comparisons.
+    std::string dump() const
+    {
+        std::string out;
+        for (const auto& [path, values] : keys) {
+            out += path + "\n";
+            for (const auto& [name, data] : values)
+                out += path + " [" + name + "] = " + data + "\n";
+        }
+        return out;
+    }
+
+private:
+    bool write() { return writes_before_failure < 0 || writes_before_failure-- > 0; }
+
+    static std::string lower(wstring_view path)
+    {
+        std::string text = utf8(path);
+        for (char& c : text)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        return text;
+    }
+};
+
+wstring file_text(const char* name)
+{
+    std::ifstream in(std::string(KORPS_MODULE_DIR) + "/" + name);
+    std::stringstream text;
+    text << in.rdbuf();
+    const std::string bytes = text.str();
+    return wstring(bytes.begin(), bytes.end());
+}
+
+const wstring app_id = WSTR("{E5693989-AC7B-424D-B28F-89CB8FA28587}");
+const wstring module_path = WSTR("C:\\Program Files\\Orrin\\korps.dll");
+const registry::replacement replacements[] = {{"APPID", app_id}, {"MODULE", module_path}};
+
+registry::script script_of(const char* file)
+{
+    return registry::parse_script(file_text(file), replacements);
+}
+
+constexpr const char* clsid = "clsid\\{de8ab314-cdd2-4600-8139-6285f46937ac}";
+
+TEST(Registrar, RegistrationWritesEveryKeyOfBothScripts)
+{
+    memory_hive hive;
+    ASSERT_EQ(registry::register_script(script_of("korps_appid.rgs"), hive), S_OK);
+    ASSERT_EQ(registry::register_script(script_of("kor_moniker.rgs"), hive), S_OK);
+    const std::string c = clsid;
+    EXPECT_EQ(hive.dump(),
+              "appid\n"
+              "appid\\korps.dll\n"
+              "appid\\korps.dll [AppID] = {E5693989-AC7B-424D-B28F-89CB8FA28587}\n"
+              "appid\\{e5693989-ac7b-424d-b28f-89cb8fa28587}\n"
+              "appid\\{e5693989-ac7b-424d-b28f-89cb8fa28587} [] = KORPS\n"
+              "clsid\n" +
+                  c + "\n" + c + " [] = Corvane Tarn Moniker\n" + c +
+                  " [AppID] = {E5693989-AC7B-424D-B28F-89CB8FA28587}\n" + c + "\\inprocserver32\n" + c +
+                  "\\inprocserver32 [] = C:\\Program Files\\Orrin\\korps.dll\n" + c +
+                  "\\inprocserver32 [ThreadingModel] = both\n" + c + "\\progid\n" + c +
+                  "\\progid [] = Corvane.Tarn.Moniker.1\n" + c + "\\typelib\n" + c +
+                  "\\typelib [] = {06b6c5a0-7950-11d2-be43-00105a202838}\n" + c + "\\versionindependentprogid\n" +
+                  c +
+                  "\\versionindependentprogid [] = Corvane.Tarn.Moniker\n"
+                  "corvane.tarn.moniker\n"
+                  "corvane.tarn.moniker [] = Corvane Tarn Moniker\n"
+                  "corvane.tarn.moniker.1\n"
+                  "corvane.tarn.moniker.1 [] = Corvane Tarn Moniker\n"
+                  "corvane.tarn.moniker.1\\clsid\n"
+                  "corvane.tarn.moniker.1\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
+                  "corvane.tarn.moniker\\clsid\n"
+                  "corvane.tarn.moniker\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
+                  "corvane.tarn.moniker\\curver\n"
+                  "corvane.tarn.moniker\\curver [] = Corvane.Tarn.Moniker.1\n"
+                  "kor\n"
+                  "kor [] = Kor Moniker\n"
+                  "kor\\clsid\n"
+                  "kor\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
+                  "kor\\curver\n"
+                  "kor\\curver [] = Corvane.Tarn.Moniker.1\n");
+}
+
+TEST(Registrar, ReRegistrationRebuildsTheClassAndRemovalKeepsWhatIsNotOurs)
+{
+    memory_hive hive;
+    hive.create_key(WSTR("CLSID\\{00000000-0000-0000-0000-000000000001}"));   // another class
+    hive.create_key(WSTR("kor\\HostNotes"));                                    // a host's own subkey
+    const registry::script scripts[] = {script_of("korps_appid.rgs"), script_of("kor_moniker.rgs")};
+    for (const auto& s : scripts)
+        ASSERT_EQ(registry::register_script(s, hive), S_OK);
+    const std::string registered = hive.dump();
+
+    // A stale subkey of the class goes with the next registration (ForceRemove).
+    hive.create_key(WSTR("CLSID\\{DE8AB314-CDD2-4600-8139-6285F46937AC}\\Stale"));
+    for (const auto& s : scripts)
+        ASSERT_EQ(registry::register_script(s, hive), S_OK);
+    EXPECT_EQ(hive.dump(), registered);
+
+    for (const auto& s : scripts)
+        ASSERT_EQ(registry::unregister_script(s, hive), S_OK);
+    EXPECT_EQ(hive.dump(), "appid\n"
+                           "clsid\n"
+                           "clsid\\{00000000-0000-0000-0000-000000000001}\n"
+                           "kor\n"
+                           "kor\\hostnotes\n");
+}
+
+TEST(Registrar, AFailingRegistryLeavesNothingOfTheScriptBehind)
+{
+    const registry::script moniker = script_of("kor_moniker.rgs");
+    for (int writes = 0; writes < 12; ++writes) {
+        memory_hive hive;
+        hive.create_key(WSTR("CLSID"));
+        hive.writes_before_failure = writes;
+        EXPECT_EQ(registry::register_script(moniker, hive), E_FAIL) << writes;
+        EXPECT_EQ(hive.dump(), "clsid\n") << "after " << writes << " writes";
+    }
+}
+
+TEST(RegistryScript, MalformedScriptsNameTheirLine)
+{
+    const struct {
+        const char* text;
+        const char* message;
+    } cases[] = {
+        {"HKLM\n{\n}", "registry script, line 1: unsupported root key 'HKLM'"},
+        {"HKCR\n{\n  kor = s 'Kor\n}", "registry script, line 3: unterminated string"},
+        {"HKCR\n{\n  kor = d '1'\n}", "registry script, line 3: unsupported value type 'd'"},
+        {"HKCR\n{\n  kor = s '%NOPE%'\n}", "registry script, line 3: unknown variable %NOPE%"},
+        {"HKCR\n{\n  kor\n  {\n    val Name = s 'x'\n", "registry script, line 4: missing '}'"},
+        {"HKCR\n{\n  val Name = s 'x'\n}", "registry script, line 3: a value outside any key"},
+        {"HKCR\n{\n  kor = s\n}", "registry script, line 3: expected a quoted value"},
+        {"HKCR kor", "registry script, line 1: expected '{'"},
+        {"HKCR\n{\n  NoRemove\n}", "registry script, line 4: expected a name"},
+    };
+    for (const auto& c : cases) {
+        const std::string text = c.text;
+        try {
+            registry::parse_script(wstring(text.begin(), text.end()), replacements);
+            ADD_FAILURE() << "accepted: " << c.text;
+        } catch (const registry::script_error& e) {
+            EXPECT_STREQ(e.what(), c.message) << c.text;
+        }
+    }
+}
+
+TEST(RegistryScript, QuotesAndPercentSigns)
+{
+    const std::string text = "HKCR { 'it''s' = s '100%% %APPID%' }";
+    const registry::script keys = registry::parse_script(wstring(text.begin(), text.end()), replacements);
+    ASSERT_EQ(keys.size(), 1u);
+    EXPECT_EQ(utf8(keys[0].path), "it's");
+    EXPECT_EQ(utf8(keys[0].values.at(0).data), "100% {E5693989-AC7B-424D-B28F-89CB8FA28587}");
+}
+
+} // namespace
