@@ -3,10 +3,9 @@
 #include <type_traits>
 
 #include "core/enum_eventui.h"
-#include "core/module_lock.h"
 #include "events/alarm_type_map.h"
 #include "module/event_types.h"
-#include "moniker/kor_moniker_factory.h"
+#include "module/korps_module.h"
 
 static_assert(std::is_same_v<::EventXmlRenderer, decltype(EVENTUI::xmlRenderer)>,
               "the core's renderer shape is the host's");
@@ -26,20 +25,24 @@ HRESULT __stdcall UI_EnumEVENTUI(IEnumEVENTUI** ppEnum)
     return CEnumEVENTUI::Create(rows.data(), rows.data() + rows.size(), ppEnum);
 }
 
-// The class object of the moniker class; the module serves no other class.
 HRESULT __stdcall DllGetClassObject(REFCLSID clsid, REFIID iid, void** ppv)
 {
-    if (!ppv)
-        return E_POINTER;
-    *ppv = nullptr;
-    if (!IsEqualCLSID(clsid, CLSID_KorMoniker))
-        return CLASS_E_CLASSNOTAVAILABLE;
-    return CKorMoniker::CFactory::Instance().QueryInterface(iid, ppv);
+    return CKORPSModule::Instance().GetClassObject(clsid, iid, ppv);
 }
 
 HRESULT __stdcall DllCanUnloadNow()
 {
-    return module::lock_count() == 0 ? S_OK : S_FALSE;
+    return CKORPSModule::Instance().CanUnloadNow();
+}
+
+HRESULT __stdcall DllRegisterServer()
+{
+    return CKORPSModule::Instance().RegisterServer();
+}
+
+HRESULT __stdcall DllUnregisterServer()
+{
+    return CKORPSModule::Instance().UnregisterServer();
 }
 
 BOOL __stdcall DllMain(HINSTANCE instance, DWORD reason, void*)
