@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 korps_module& korps_module::get()
 {
     static korps_module module;
@@ -17,5 +16,14 @@ korps_module::korps_module() : module_(LoadLibraryW(L"korps.dll"))
     RegisterAlarmTypeMap = export_named<RegisterAlarmTypeMap_t>("RegisterAlarmTypeMap");
     DllCanUnloadNow = export_named<HRESULT(__stdcall*)()>("DllCanUnloadNow");
     DllGetClassObject = export_named<decltype(DllGetClassObject)>("DllGetClassObject");
+    DllRegisterServer = export_named<HRESULT(__stdcall*)()>("DllRegisterServer");
+    DllUnregisterServer = export_named<HRESULT(__stdcall*)()>("DllUnregisterServer");
+}
+
+std::wstring korps_module::path() const
+{
+    wchar_t text[MAX_PATH];
+    const DWORD n = GetModuleFileNameW(module_, text, MAX_PATH);
+    return std::wstring(text, n);
 }
 

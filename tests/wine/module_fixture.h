@@ -20,6 +20,11 @@ public:
     RegisterAlarmTypeMap_t RegisterAlarmTypeMap;
     HRESULT(__stdcall* DllCanUnloadNow)();
     HRESULT(__stdcall* DllGetClassObject)(REFCLSID clsid, REFIID iid, void** ppv);
+    HRESULT(__stdcall* DllRegisterServer)();
+    HRESULT(__stdcall* DllUnregisterServer)();
+
+    // Where the module was loaded from, as registration writes it.
+    std::wstring path() const;
 
 private:
     korps_module();

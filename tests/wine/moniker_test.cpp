@@ -3,7 +3,6 @@
 // and a host's binder played by fakes.
 #include <gtest/gtest.h>
 
-#include <cwchar>
 #include <string>
 #include <vector>
 
@@ -478,49 +477,6 @@ TEST_F(Moniker, ComposeWith)
     DWORD mksys = 0;
     EXPECT_EQ(generic->IsSystemMoniker(&mksys), S_OK);
     EXPECT_EQ(mksys, static_cast<DWORD>(MKSYS_GENERICCOMPOSITE));
-}
-
-// The way clients reach the moniker: the platform's display-name parsing
-// finds the class through the "kor" scheme's registration, written here as
-// the module's registration writes it.
-class registered_scheme {
-public:
-    registered_scheme()
-    {
-        korps_module::get();   // loaded, so that its path can be registered
-        wchar_t path[MAX_PATH];
-        GetModuleFileNameW(GetModuleHandleW(L"korps.dll"), path, MAX_PATH);
-        set(L"kor\\CLSID", nullptr, clsid);
-        set(server, nullptr, path);
-        set(server, L"ThreadingModel", L"Both");
-    }
-    ~registered_scheme()
-    {
-        RegDeleteTreeW(HKEY_CLASSES_ROOT, L"kor");
-        RegDeleteTreeW(HKEY_CLASSES_ROOT, L"CLSID\\{DE8AB314-CDD2-4600-8139-6285F46937AC}");
-    }
-
-private:
-    static constexpr const wchar_t* clsid = L"{DE8AB314-CDD2-4600-8139-6285F46937AC}";
-    static constexpr const wchar_t* server = L"CLSID\\{DE8AB314-CDD2-4600-8139-6285F46937AC}\\InprocServer32";
-
-    static void set(const wchar_t* key, const wchar_t* name, const wchar_t* value)
-    {
-        const auto bytes = static_cast<DWORD>((std::wcslen(value) + 1) * sizeof(wchar_t));
-        ASSERT_EQ(RegSetKeyValueW(HKEY_CLASSES_ROOT, key, name, REG_SZ, value, bytes), ERROR_SUCCESS);
-    }
-};
-
-TEST_F(Moniker, PlatformParsesThroughTheScheme)
-{
-    registered_scheme scheme;
-    com_ptr<IBindCtx> context;
-    ASSERT_EQ(CreateBindCtx(0, context.put()), S_OK);
-    ULONG eaten = 0;
-    com_ptr<IMoniker> moniker;
-    ASSERT_EQ(MkParseDisplayName(context.get(), L"kor:FCN1L-10.0.0.1", &eaten, moniker.put()), S_OK);
-    EXPECT_EQ(eaten, 18u);
-    EXPECT_EQ(display_name(moniker.get()), L"kor:fcn1l-10.0.0.1");
 }
 
 } // namespace
