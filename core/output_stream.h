@@ -45,10 +45,16 @@ public:
     }
 
     // Narrow text, widened with the ANSI code page; one unit per source byte.
+    // ASCII is the same in every code page and is widened here, so that the
+    // module's own literals never reach the code-page converter.
     void write(const char* s, std::size_t n)
     {
         reserve(n);
-        platform::widen_ansi(s, n, cur_);
+        std::size_t i = 0;
+        for (; i < n && static_cast<unsigned char>(s[i]) < 0x80; ++i)
+            cur_[i] = static_cast<Char>(s[i]);
+        if (i < n)
+            platform::widen_ansi(s + i, n - i, cur_ + i);
         advance(n);
     }
 

@@ -6,7 +6,7 @@
 // payload text taken as it stands.
 #pragma once
 
-#include <deque>
+#include <array>
 #include <string_view>
 
 #include "core/indented_stream.h"
@@ -33,9 +33,11 @@ public:
     // Writes "<name" and leaves the start tag open.
     void open_element(std::string_view name)
     {
+        if (depth_ == elements_.size())
+            throw io::error("elements nested too deeply");
         write("<", 1);
         Base::write(name.data(), name.size());
-        elements_.push_back({name});
+        elements_[depth_++] = name;
         tagClosed = false;
     }
 
@@ -55,18 +57,18 @@ public:
     // "/>" when the start tag is still open, else the end tag.
     void close_element()
     {
-        if (elements_.empty())
+        if (depth_ == 0)
             throw io::error("no open element");
-        const open_tag top = elements_.back();
+        const std::string_view top = elements_[depth_ - 1];
         if (!tagClosed) {
             Base::write("/>", 2);
             tagClosed = true;
         } else {
             Base::write("</", 2);
-            Base::write(top.name.data(), top.name.size());
+            Base::write(top.data(), top.size());
             Base::write(">", 1);
         }
-        elements_.pop_back();
+        --depth_;
     }
 
     // An element holding one value as text: <name>value</name>.
@@ -82,9 +84,6 @@ public:
     bool tagClosed = true;
 
 private:
-    struct open_tag {
-        std::string_view name;   // names are literals of the module
-    };
 
     void close_start_tag()
     {
@@ -94,7 +93,10 @@ private:
         }
     }
 
-    std::deque<open_tag> elements_;
+    // The names of the open elements, literals of the module; no fragment
+    // nests deeper than this.
+    std::array<std::string_view, 16> elements_{};
+    std::size_t depth_ = 0;
 };
 
 } // namespace io::xml::output
