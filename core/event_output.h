@@ -26,6 +26,5 @@ public:
 template <class Value>
 void write_element_line(ui::event::xml_output& out, std::string_view name, const Value& value)
 {
-    out.element(name, value);
-    out << "\n";
+    out.element(name, value, "\n");
 }

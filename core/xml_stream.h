@@ -71,14 +71,31 @@ public:
         --depth_;
     }
 
-    // An element holding one value as text: <name>value</name>.
+    // An element holding one value as text: <name>value</name>, and `after`
+    // behind it. The tags go out in one piece each.
     template <class Value>
-    void element(std::string_view name, const Value& value)
+    void element(std::string_view name, const Value& value, std::string_view after = {})
     {
-        open_element(name);
-        close_start_tag();
+        char tag[96];
+        if (name.size() + after.size() + 3 > sizeof tag) {
+            open_element(name);
+            close_start_tag();
+            *this << value;
+            close_element();
+            *this << after;
+            return;
+        }
+        tag[0] = '<';
+        name.copy(tag + 1, name.size());
+        tag[name.size() + 1] = '>';
+        write(tag, name.size() + 2);
         *this << value;
-        close_element();
+        tag[0] = '<';
+        tag[1] = '/';
+        name.copy(tag + 2, name.size());
+        tag[name.size() + 2] = '>';
+        after.copy(tag + name.size() + 3, after.size());
+        Base::write(tag, name.size() + 3 + after.size());
     }
 
     bool tagClosed = true;
