@@ -14,6 +14,7 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <map>
 #include <string>
 
@@ -282,6 +283,29 @@ void register_benchmarks()
     }
 }
 
+// A fixed workload for instruction counting (scripts/instructions): `calls`
+// renderings of one sample, inside this function alone.
+[[gnu::noinline]] void workload(const rendering& r, long calls)
+{
+    std::array<wchar, capacity> buffer;
+    for (long i = 0; i < calls; ++i) {
+        benchmark::DoNotOptimize(r.run(buffer.data(), capacity));
+        benchmark::ClobberMemory();
+    }
+}
+
+// korps_bench --workload text|xml "sample name" calls
+int run_workload(const std::string& form, const std::string& name, long calls)
+{
+    for (const rendering& r : renderings)
+        if (r.text == (form == "text") && r.sample->name == name) {
+            workload(r, calls);
+            return 0;
+        }
+    std::fprintf(stderr, "korps_bench: no successful %s rendering of '%s'\n", form.c_str(), name.c_str());
+    return 2;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -289,6 +313,8 @@ int main(int argc, char** argv)
     samples::register_alarm_types(&RegisterAlarmTypeMap);
     all_samples = samples::load_folder(KORPS_SAMPLES_DIR);
     renderings = bench::successful_renderings(all_samples);
+    if (argc == 5 && std::string(argv[1]) == "--workload")
+        return run_workload(argv[2], argv[3], std::atol(argv[4]));
     register_benchmarks();
     benchmark::Initialize(&argc, argv);
     capture reporter;
