@@ -6,7 +6,8 @@
 // it is caught. Canaries after the buffer catch writes past `capacity`.
 //
 // Invariants: the result is one a renderer documents; an error description is
-// left exactly when the result is DISP_E_EXCEPTION; a success holds a
+// left with every DISP_E_EXCEPTION and never with S_OK or E_UNEXPECTED; a
+// success holds a
 // terminated text identical to the rendering into an ample buffer; a failure
 // leaves a terminated prefix of that rendering.
 #include <algorithm>
@@ -85,7 +86,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const rendering r = render_into(row, text, payload.get(), bytes, capacity);
     FUZZ_REQUIRE(documented(r.result));
-    FUZZ_REQUIRE(r.described == (r.result == DISP_E_EXCEPTION));
+    // A DISP_E_EXCEPTION always says why; success and a refused size never
+    // leave an error object. (E_NOTIMPL names the unit family it refuses.)
+    if (r.result == DISP_E_EXCEPTION)
+        FUZZ_REQUIRE(r.described);
+    if (r.result == S_OK || r.result == E_UNEXPECTED)
+        FUZZ_REQUIRE(!r.described);
     if (r.result == E_UNEXPECTED) {
         FUZZ_REQUIRE(capacity == 0 || r.buffer[0] == canary);   // refused before anything was written
         return 0;
