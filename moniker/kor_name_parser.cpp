@@ -117,20 +117,26 @@ key_match match_device_key(wstring_view text) noexcept
 
 } // namespace
 
-std::optional<parsed_kor_name> read_kor_name(wstring_view text)
+std::optional<parsed_kor_name> read_kor_name(wstring_view text, std::size_t* stopped)
 {
     text_reader in(text);
     if (!in.skip("kor:"))
         return std::nullopt;
 
     parsed_kor_name parsed{};
-    const key_match key = match_device_key(in.rest());
-    if (key.row) {
-        in.advance(key.length);
-        parsed.name.deviceType = key.row->value;
-        read_device(in, parsed.name);
-    } else {
-        read_identifier_form(in, parsed.name);
+    try {
+        const key_match key = match_device_key(in.rest());
+        if (key.row) {
+            in.advance(key.length);
+            parsed.name.deviceType = key.row->value;
+            read_device(in, parsed.name);
+        } else {
+            read_identifier_form(in, parsed.name);
+        }
+    } catch (...) {
+        if (stopped)
+            *stopped = in.position();
+        throw;
     }
     parsed.eaten = in.position();
     return parsed;

@@ -22,8 +22,9 @@ struct parsed_kor_name {
 };
 
 // Reads the name at the start of `text`: nothing when the text does not begin
-// with "kor:"; the error of the first piece that does not fit otherwise.
-std::optional<parsed_kor_name> read_kor_name(wstring_view text);
+// with "kor:"; the error of the first piece that does not fit otherwise, with
+// the units read before it in *stopped when asked.
+std::optional<parsed_kor_name> read_kor_name(wstring_view text, std::size_t* stopped = nullptr);
 
 // The same for a NUL-terminated text at the COM boundary: S_OK with `name`
 // and `eaten` set; E_UNEXPECTED, quietly, for a text without the scheme;

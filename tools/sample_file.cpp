@@ -22,6 +22,15 @@ int hex_value(char c)
     return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
 }
 
+// A count of UTF-16 units, in decimal, 1 or more.
+std::size_t parse_units(const std::string& value, const std::string& file, int line)
+{
+    const auto digit = [](char c) { return c >= '0' && c <= '9'; };
+    if (value.empty() || value.size() > 7 || !std::all_of(value.begin(), value.end(), digit) || std::stoul(value) == 0)
+        fail(file, line, "expected a capacity of 1 to 9999999 units, got '" + value + "'");
+    return std::stoul(value);
+}
+
 std::uint32_t parse_hex_number(const std::string& value, const std::string& file, int line)
 {
     std::size_t used = 0;
@@ -222,6 +231,8 @@ std::vector<sample> parse(const std::string& content, const std::string& file)
             s.payload.insert(s.payload.end(), bytes.begin(), bytes.end());
         } else if (key == "text" || key == "xml") {
             target->output += parse_quoted(value, file, number);
+        } else if (key == "capacity") {
+            s.capacity = parse_units(value, file, number);
         } else if (key == "colour") {
             target->colour = parse_hex_number(value, file, number);
         } else if (key == "text-result" || key == "xml-result") {

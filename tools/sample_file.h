@@ -29,6 +29,7 @@ struct sample {
     int line = 0;
     GUID event{};
     std::vector<std::uint8_t> payload;
+    std::optional<std::size_t> capacity;   // the host's buffer, when not ample
     std::optional<expectation> text;
     std::optional<expectation> xml;
 };

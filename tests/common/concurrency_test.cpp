@@ -39,7 +39,8 @@ TEST(Concurrency, EverySampleFromEightThreadsAtOnce)
             // renderers run side by side.
             for (std::size_t i = 0; i < rounds * jobs.size(); ++i) {
                 const job& j = jobs[(i + t * jobs.size() / threads) % jobs.size()];
-                const sample_check::outcome o = sample_check::render(j.renderers, j.text, j.sample->payload, 8192);
+                const sample_check::outcome o =
+                    sample_check::render(j.renderers, j.text, j.sample->payload, j.sample->capacity.value_or(8192));
                 if (o.result != j.expected->result || o.output != j.expected->output || !o.intact ||
                     (j.expected->error && o.error != *j.expected->error))
                     ++wrong;

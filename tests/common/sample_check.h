@@ -70,7 +70,7 @@ inline outcome render(const renderers& r, bool text, const std::vector<std::uint
 inline void check(const renderers& r, bool text, const samples::sample& s, const samples::expectation& e)
 {
     const char* form = text ? "text" : "xml";
-    const outcome full = render(r, text, s.payload, 8192);
+    const outcome full = render(r, text, s.payload, s.capacity.value_or(8192));
     EXPECT_EQ(full.result, e.result) << form;
     EXPECT_EQ(samples::quote(full.output), samples::quote(e.output)) << form;
     if (e.colour) {
