@@ -2,8 +2,8 @@
  * KORPS: the event renderers and device monikers of the Orrin management
  * console, as a host sees them.
  *
- * The header is for C++ hosts. A host loads korps.dll, resolves the exports below with GetProcAddress,
- * registers its alarm names once with RegisterAlarmTypeMap, then enumerates
+ * The header compiles as C and as C++. A host loads korps.dll, resolves the
+ * exports below with GetProcAddress, registers its alarm names once with RegisterAlarmTypeMap, then enumerates
  * the event types once with UI_EnumEVENTUI and keeps the renderer pointers of
  * each EVENTUI record for as long as the module stays loaded.
  */
@@ -42,18 +42,21 @@ typedef struct EVENTUI {
     const WCHAR* name;            /* module-owned; valid while the module is loaded */
 } EVENTUI;
 
-#if defined(__cplusplus) && !defined(_WIN64)
-static_assert(sizeof(EVENTUI) == 32, "EVENTUI crosses the module boundary as 32 bytes");
+/* EVENTUI crosses the module boundary as 32 bytes on the 32-bit target. */
+#ifndef _WIN64
+typedef char korps_eventui_is_32_bytes[sizeof(EVENTUI) == 32 ? 1 : -1];
 #endif
-
-#ifdef __cplusplus
-} /* extern "C" */
 
 /*
  * Hands out the event type table. Next copies records and returns S_FALSE
  * when fewer than asked were left; Clone starts the copy at the first record
  * again, whatever the position of its source.
  */
+DEFINE_GUID(IID_IEnumEVENTUI, 0xd3685424, 0x6ac4, 0x4f3f, 0x8c, 0x8e, 0x11, 0x00, 0x7b, 0x46, 0x26, 0x95);
+
+#ifdef __cplusplus
+} /* extern "C" */
+
 MIDL_INTERFACE("d3685424-6ac4-4f3f-8c8e-11007b462695")
 IEnumEVENTUI : public IUnknown
 {
@@ -66,9 +69,21 @@ IEnumEVENTUI : public IUnknown
 __CRT_UUID_DECL(IEnumEVENTUI, 0xd3685424, 0x6ac4, 0x4f3f, 0x8c, 0x8e, 0x11, 0x00, 0x7b, 0x46, 0x26, 0x95)
 #endif
 
-static const IID IID_IEnumEVENTUI = {0xd3685424, 0x6ac4, 0x4f3f, {0x8c, 0x8e, 0x11, 0x00, 0x7b, 0x46, 0x26, 0x95}};
-
 extern "C" {
+#else
+typedef struct IEnumEVENTUI IEnumEVENTUI;
+typedef struct IEnumEVENTUIVtbl {
+    HRESULT(STDMETHODCALLTYPE* QueryInterface)(IEnumEVENTUI* This, REFIID riid, void** ppvObject);
+    ULONG(STDMETHODCALLTYPE* AddRef)(IEnumEVENTUI* This);
+    ULONG(STDMETHODCALLTYPE* Release)(IEnumEVENTUI* This);
+    HRESULT(STDMETHODCALLTYPE* Next)(IEnumEVENTUI* This, ULONG celt, EVENTUI* rgelt, ULONG* pceltFetched);
+    HRESULT(STDMETHODCALLTYPE* Skip)(IEnumEVENTUI* This, ULONG celt);
+    HRESULT(STDMETHODCALLTYPE* Reset)(IEnumEVENTUI* This);
+    HRESULT(STDMETHODCALLTYPE* Clone)(IEnumEVENTUI* This, IEnumEVENTUI** ppEnum);
+} IEnumEVENTUIVtbl;
+struct IEnumEVENTUI {
+    const IEnumEVENTUIVtbl* lpVtbl;
+};
 #endif
 
 /* One alarm type for RegisterAlarmTypeMap: 20 bytes on the 32-bit target.
@@ -78,16 +93,22 @@ typedef struct ALARMTYPE {
     const char* name;
 } ALARMTYPE;
 
-#if defined(__cplusplus) && !defined(_WIN64)
-static_assert(sizeof(ALARMTYPE) == 20, "ALARMTYPE crosses the module boundary as 20 bytes");
+#ifndef _WIN64
+typedef char korps_alarmtype_is_20_bytes[sizeof(ALARMTYPE) == 20 ? 1 : -1];
 #endif
 
 /* Export signatures, for GetProcAddress. */
 typedef HRESULT(__stdcall* UI_EnumEVENTUI_t)(IEnumEVENTUI** ppEnum);
 typedef int(__cdecl* RegisterAlarmTypeMap_t)(int count, const ALARMTYPE* records);
 
+/* Registration, for installers and hosts that do not use regsvr32. */
+typedef HRESULT(__stdcall* DllRegisterServer_t)(void);
+typedef HRESULT(__stdcall* DllUnregisterServer_t)(void);
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif
+
+#include "korps_events.h"
 
 #endif /* KORPS_KORPS_H */
