@@ -1,4 +1,5 @@
 // The module's exported entry points. None lets an exception out.
+#define KORPS_MODULE_BUILD   // the module defines the exports with its own types
 #include <cstddef>
 #include <type_traits>
 

@@ -105,6 +105,13 @@ typedef int(__cdecl* RegisterAlarmTypeMap_t)(int count, const ALARMTYPE* records
 typedef HRESULT(__stdcall* DllRegisterServer_t)(void);
 typedef HRESULT(__stdcall* DllUnregisterServer_t)(void);
 
+/* The exports, for hosts that link the import library lib/libkorps.a rather
+   than resolving them with GetProcAddress. */
+#ifndef KORPS_MODULE_BUILD
+HRESULT __stdcall UI_EnumEVENTUI(IEnumEVENTUI** ppEnum);
+int __cdecl RegisterAlarmTypeMap(int count, const ALARMTYPE* records);
+#endif
+
 #ifdef __cplusplus
 } /* extern "C" */
 #endif
