@@ -292,6 +292,7 @@ HRESULT CKorMoniker::GetDisplayName(IBindCtx*, IMoniker*, LPOLESTR* ppszDisplayN
 {
     if (!ppszDisplayName)
         return E_POINTER;
+    *ppszDisplayName = nullptr;   // whatever the outcome, no stale pointer
     auto* text = static_cast<LPOLESTR>(CoTaskMemAlloc(kor_name_capacity * sizeof(OLECHAR)));
     if (!text)
         return E_OUTOFMEMORY;
