@@ -357,6 +357,18 @@ TEST_F(Moniker, StreamFailures)
     EXPECT_EQ(written, names[3].bytes) << "the whole name is offered in one write";
     EXPECT_EQ(stream.refs, 1) << "the stream is held only during the call";
     EXPECT_EQ(moniker->Load(nullptr), E_POINTER);
+
+    // A stream that fails half-way, after the kind: its failure comes back.
+    int reads = 0;
+    stream.read = [&](void* pv, ULONG cb, ULONG* got) {
+        if (reads++ > 0)
+            return STG_E_READFAULT;
+        *static_cast<DWORD*>(pv) = 1;   // a device name follows
+        *got = cb;
+        return S_OK;
+    };
+    EXPECT_EQ(moniker->Load(&stream), STG_E_READFAULT);
+    EXPECT_EQ(reads, 2);
 }
 
 TEST_F(Moniker, IsEqualAndHash)
