@@ -2,7 +2,6 @@
 // which unit type, and the shapes that the sample files show only once.
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -11,7 +10,6 @@
 #include "events/alarm_events.h"
 #include "events/alarm_state.h"
 #include "events/unit_alarm_record.h"
-#include "events/unit_status.h"
 #include "tests/native/test_text.h"
 
 namespace {
@@ -105,27 +103,6 @@ TEST(AlarmState, IndexingPastTheTableIsAnInvalidOption)
         FAIL() << "no error";
     } catch (const data::invalid_option& e) {
         EXPECT_STREQ(e.what(), "invalid option: render::alarm_state");
-    }
-}
-
-TEST(UnitStatus, NamesAndColours)
-{
-    const struct {
-        std::int32_t value;
-        const char* name;
-        render::colour colour;
-    } cases[] = {
-        {INT_MIN, "Disconnected", render::colours::grey}, {-3, "Disconnected", render::colours::grey},
-        {-2, "Disabled", render::colours::grey},          {-1, "Disconnected", render::colours::grey},
-        {0, "OK", render::colours::green},                {1, "Alarmed", render::colours::red},
-        {2, "2 Alarms", render::colours::red},            {INT_MAX, "2147483647 Alarms", render::colours::red},
-    };
-    for (const auto& c : cases) {
-        wchar buffer[64];
-        ui::event::text_output out(buffer, 64);
-        out << unit_status{c.value};
-        EXPECT_EQ(utf8(buffer), c.name) << c.value;
-        EXPECT_EQ(colour_of(unit_status{c.value}), c.colour) << c.value;
     }
 }
 

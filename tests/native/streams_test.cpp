@@ -64,43 +64,6 @@ TEST(IndentedStream, FillIsWrittenLazilyWithEachLine)
     EXPECT_EQ(utf8(buffer.data()), "   a\n   b\n   c");
 }
 
-TEST(XmlStream, PendingStartTagIsClosedByTheNextWrite)
-{
-    struct test_case {
-        const char* name;
-        void (*write)(ui::event::xml_output&);
-        const char* expected;
-    };
-    const test_case cases[] = {
-        {"element with text", [](auto& out) { out.element("source", WSTR("unit")); }, "<source>unit</source>"},
-        {"empty element", [](auto& out) { out.open_element("e"); out.close_element(); }, "<e/>"},
-        {"attributes then content",
-         [](auto& out) {
-             out.open_element("device");
-             out.attribute("address", decimal(2));
-             out.attribute("name", WSTR("a&b"));
-             out << "\n";
-             out.element("raised", "AGC");
-             out.close_element();
-         },
-         "<device address=\"2\" name=\"a&b\">\n<raised>AGC</raised></device>"},
-        {"nested open tags",
-         [](auto& out) {
-             out.open_element("a");
-             out.open_element("b");
-             out.close_element();
-             out.close_element();
-         },
-         "<a><b/></a>"},
-    };
-    for (const test_case& c : cases) {
-        std::array<wchar, 128> buffer{};
-        ui::event::xml_output out(buffer.data(), buffer.size());
-        c.write(out);
-        EXPECT_EQ(utf8(buffer.data()), c.expected) << c.name;
-    }
-}
-
 TEST(XmlStream, AttributeAfterTheTagClosedIsRefused)
 {
     std::array<wchar, 64> buffer{};

@@ -39,15 +39,6 @@ std::wstring guid_text(const GUID& id)
     return text;
 }
 
-TEST(Enumerator, RecordLayoutIsFixed)
-{
-    static_assert(sizeof(EVENTUI) == 32);
-    static_assert(offsetof(EVENTUI, xmlRenderer) == 16);
-    static_assert(offsetof(EVENTUI, reserved) == 20);
-    static_assert(offsetof(EVENTUI, textRenderer) == 24);
-    static_assert(offsetof(EVENTUI, name) == 28);
-}
-
 TEST(Enumerator, HandsOutTheWholeTable)
 {
     const std::vector<EVENTUI> rows = read_all();
