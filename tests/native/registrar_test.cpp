@@ -4,85 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "module/registrar.h"
+#include "tests/common/memory_hive.h"
 #include "tests/native/test_text.h"
 
 namespace {
-
-// Keys by path, compared without regard to case as the registry does.
-class memory_hive final : public registry::hive {
-public:
-    std::map<std::string, std::map<std::string, std::string>> keys;
-    int writes_before_failure = -1;   // -1: never fail
-
-    HRESULT create_key(wstring_view path) override
-    {
-        if (!write())
-            return E_FAIL;
-        for (std::size_t cut = 0; cut != wstring_view::npos;) {
-            cut = path.find(wchar('\\'), cut + 1);
-            keys[lower(path.substr(0, cut))];
-        }
-        return S_OK;
-    }
-    HRESULT set_value(wstring_view path, wstring_view name, wstring_view data) override
-    {
-        if (!write())
-            return E_FAIL;
-        keys.at(lower(path))[utf8(name)] = utf8(data);
-        return S_OK;
-    }
-    HRESULT delete_value(wstring_view path, wstring_view name) override
-    {
-        if (const auto k = keys.find(lower(path)); k != keys.end())
-            k->second.erase(utf8(name));
-        return S_OK;
-    }
-    HRESULT delete_tree(wstring_view path) override
-    {
-        const std::string top = lower(path);
-        std::erase_if(keys, [&](const auto& k) { return k.first == top || k.first.starts_with(top + "\\"); });
-        return S_OK;
-    }
-    HRESULT delete_if_empty(wstring_view path) override
-    {
-        const std::string top = lower(path);
-        const auto k = keys.find(top);
-        const bool has_subkeys = std::any_of(keys.begin(), keys.end(),
-                                             [&](const auto& other) { return other.first.starts_with(top + "\\"); });
-        if (k != keys.end() && k->second.empty() && !has_subkeys)
-            keys.erase(k);
-        return S_OK;
-    }
-
-    // Every key and value, one a line, for comparisons.
-    std::string dump() const
-    {
-        std::string out;
-        for (const auto& [path, values] : keys) {
-            out += path + "\n";
-            for (const auto& [name, data] : values)
-                out += path + " [" + name + "] = " + data + "\n";
-        }
-        return out;
-    }
-
-private:
-    bool write() { return writes_before_failure < 0 || writes_before_failure-- > 0; }
-
-    static std::string lower(wstring_view path)
-    {
-        std::string text = utf8(path);
-        for (char& c : text)
-            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-        return text;
-    }
-};
 
 wstring file_text(const char* name)
 {
