@@ -52,7 +52,7 @@ struct field {
     std::string_view display;   // text form
     value kind;
     std::span<const OptionEntry> demod_value_tables::*table = nullptr;   // for `option`
-    const field_scale* scale = nullptr;                                   // for `scaled`
+    field_scale scale{};                                                  // for `scaled`
     bool is_signed = false;                                               // for `scaled`
     std::array<slot, layouts> at{};                                       // R1, R2, R3
 };
@@ -65,18 +65,18 @@ inline constexpr bool signed_reading = true;
 constexpr field opt(std::string_view key, std::string_view display,
                     std::span<const OptionEntry> tables::*table, std::array<slot, layouts> at)
 {
-    return {key, display, value::option, table, nullptr, false, at};
+    return {key, display, value::option, table, {}, false, at};
 }
 
 constexpr field plain(std::string_view key, std::string_view display, value kind, std::array<slot, layouts> at)
 {
-    return {key, display, kind, nullptr, nullptr, false, at};
+    return {key, display, kind, nullptr, {}, false, at};
 }
 
 constexpr field scaled(std::string_view key, std::string_view display, const field_scale& scale, bool is_signed,
                        std::array<slot, layouts> at)
 {
-    return {key, display, value::scaled, nullptr, &scale, is_signed, at};
+    return {key, display, value::scaled, nullptr, scale, is_signed, at};
 }
 
 // Unit section groups: 0 identity, 1 status, 2 and 3 options, 4 supply and
@@ -212,7 +212,7 @@ consteval bool well_formed()
             if (f.kind == value::option && (value_tables[l]->*f.table).empty())
                 return false;
         }
-        if ((f.kind == value::option) != (f.table != nullptr) || (f.kind == value::scaled) != (f.scale != nullptr))
+        if ((f.kind == value::option) != (f.table != nullptr) || (f.kind == value::scaled) != !f.scale.units.empty())
             return false;
     }
     return true;

@@ -91,8 +91,8 @@ void write_item(const item_writer<Out>& write, const demod_value_tables& tables)
         return write(read_u8, formats::option{tables.*f.table});
     case value::scaled:
         if (f.is_signed)
-            return write(read_i32, formats::scaled{*f.scale});
-        return write(read_u32, formats::scaled{*f.scale});
+            return write(read_i32, formats::scaled{f.scale});
+        return write(read_u32, formats::scaled{f.scale});
     case value::time_stamp:
         return write(read_u32, formats::time_stamp{});
     case value::address:
