@@ -17,6 +17,10 @@ class payload_text {
 public:
     static constexpr std::size_t capacity = 260;   // units, terminator included
 
+    // Empty. Only the units of a text and its terminator are ever written:
+    // clearing the whole buffer would cost more than reading most texts.
+    payload_text() noexcept { units_[0] = 0; }
+
     wstring_view view() const noexcept { return {units_.data(), size_}; }
     const wchar* c_str() const noexcept { return units_.data(); }
     std::size_t size() const noexcept { return size_; }
@@ -25,7 +29,7 @@ public:
 
 private:
     friend class payload_cursor;
-    std::array<wchar, capacity> units_{};
+    std::array<wchar, capacity> units_;
     std::size_t size_ = 0;
 };
 
