@@ -15,8 +15,10 @@ struct alarm_type_record {
     const char* name;
 };
 
-#if defined(_WIN32) && !defined(_WIN64)
-static_assert(sizeof(alarm_type_record) == 20, "an alarm type crosses the module boundary as 20 bytes");
+#if defined(_WIN64)
+static_assert(sizeof(alarm_type_record) == 24, "an alarm type crosses the 64-bit module boundary as 24 bytes");
+#elif defined(_WIN32)
+static_assert(sizeof(alarm_type_record) == 20, "an alarm type crosses the 32-bit module boundary as 20 bytes");
 #endif
 
 // Registers `count` records in array order: a new identifier is added, a known

@@ -33,7 +33,8 @@ typedef HRESULT(__stdcall* EventXmlRenderer)(void* context, UINT payloadBytes, c
 typedef HRESULT(__stdcall* EventTextRenderer)(void* context, UINT payloadBytes, const BYTE* payload,
                                               WCHAR* buffer, UINT capacity, UINT* colour);
 
-/* One event type: 32 bytes on the 32-bit target, no padding. */
+/* One event type: 32 bytes on the 32-bit target, no padding; 48 bytes on the
+   64-bit target, in its natural layout (4 bytes of padding after reserved). */
 typedef struct EVENTUI {
     GUID eventType;
     EventXmlRenderer xmlRenderer; /* null when the type has no XML form */
@@ -42,8 +43,11 @@ typedef struct EVENTUI {
     const WCHAR* name;            /* module-owned; valid while the module is loaded */
 } EVENTUI;
 
-/* EVENTUI crosses the module boundary as 32 bytes on the 32-bit target. */
-#ifndef _WIN64
+/* EVENTUI crosses the module boundary as 32 bytes on the 32-bit target and
+   48 on the 64-bit one. */
+#ifdef _WIN64
+typedef char korps_eventui_is_48_bytes[sizeof(EVENTUI) == 48 ? 1 : -1];
+#else
 typedef char korps_eventui_is_32_bytes[sizeof(EVENTUI) == 32 ? 1 : -1];
 #endif
 
@@ -86,14 +90,16 @@ struct IEnumEVENTUI {
 };
 #endif
 
-/* One alarm type for RegisterAlarmTypeMap: 20 bytes on the 32-bit target.
-   The module keeps the name pointer, not a copy. */
+/* One alarm type for RegisterAlarmTypeMap: 20 bytes on the 32-bit target,
+   24 on the 64-bit one. The module keeps the name pointer, not a copy. */
 typedef struct ALARMTYPE {
     GUID id;
     const char* name;
 } ALARMTYPE;
 
-#ifndef _WIN64
+#ifdef _WIN64
+typedef char korps_alarmtype_is_24_bytes[sizeof(ALARMTYPE) == 24 ? 1 : -1];
+#else
 typedef char korps_alarmtype_is_20_bytes[sizeof(ALARMTYPE) == 20 ? 1 : -1];
 #endif
 
