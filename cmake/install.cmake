@@ -1,8 +1,11 @@
-# What `cmake --install` lays out: the host integration kit.
-#   bin/      korps.dll, korps.exe and korps-host.exe (Windows build); korps (native)
+# What `cmake --install` lays out: the host integration kit. Both Windows
+# builds install into one tree side by side, each module in the folder of its
+# architecture (x86 for 32-bit hosts, x64 for 64-bit hosts):
+#   bin/x86, bin/x64   korps.dll, korps.exe and korps-host.exe; bin/korps (native)
 #   include/  korps/: the host header, the event type identifiers, the IDL and
-#             the interface headers generated from it, korps_guids.cpp
-#   lib/      libkorps.a, the import library, usable from C and C++
+#             the interface headers generated from it (the same for both
+#             widths), korps_guids.cpp
+#   lib/x86, lib/x64   libkorps.a, the module's import library, usable from C and C++
 #   docs/     the documents
 if(KORPS_LIBFUZZER)
     return()
@@ -12,9 +15,13 @@ if(NOT WIN32)
     install(TARGETS korps_cli RUNTIME DESTINATION bin)
     return()
 endif()
-install(TARGETS korps RUNTIME DESTINATION bin)
-install(TARGETS korps_cli korps-host RUNTIME DESTINATION bin)
-install(FILES ${KORPS_IMPORT_LIBRARY} DESTINATION lib)
+if(KORPS_WINDOWS_BITS EQUAL 64)
+    set(arch x64)
+else()
+    set(arch x86)
+endif()
+install(TARGETS korps korps_cli korps-host RUNTIME DESTINATION bin/${arch})
+install(FILES ${KORPS_IMPORT_LIBRARY} DESTINATION lib/${arch})
 install(FILES
     ${CMAKE_SOURCE_DIR}/include/korps/korps.h
     ${CMAKE_SOURCE_DIR}/include/korps/korps_events.h
