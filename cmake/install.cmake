@@ -15,13 +15,8 @@ if(NOT WIN32)
     install(TARGETS korps_cli RUNTIME DESTINATION bin)
     return()
 endif()
-if(KORPS_WINDOWS_BITS EQUAL 64)
-    set(arch x64)
-else()
-    set(arch x86)
-endif()
-install(TARGETS korps korps_cli korps-host RUNTIME DESTINATION bin/${arch})
-install(FILES ${KORPS_IMPORT_LIBRARY} DESTINATION lib/${arch})
+install(TARGETS korps korps_cli korps-host RUNTIME DESTINATION bin/${KORPS_KIT_ARCH})
+install(FILES ${KORPS_IMPORT_LIBRARY} DESTINATION lib/${KORPS_KIT_ARCH})
 install(FILES
     ${CMAKE_SOURCE_DIR}/include/korps/korps.h
     ${CMAKE_SOURCE_DIR}/include/korps/korps_events.h
