@@ -12,10 +12,10 @@
 
 namespace {
 
-// The module's tables hold narrow ASCII texts; fmt writes them into the wide
-// buffer one character at a time, as it would any argument.
+// The module's tables hold UTF-16 texts; fmt writes them into its wide
+// buffer one unit at a time, as it would any argument.
 struct ascii {
-    std::string_view text;
+    wstring_view text;
 };
 
 } // namespace
@@ -48,10 +48,9 @@ struct ipv4 {
     }
 };
 
-ascii option_text(std::span<const OptionEntry> table, std::uint32_t value)
+ascii option_name(std::span<const OptionEntry> table, std::uint32_t value)
 {
-    const OptionEntry* row = find_option(table, value);
-    return {row ? row->narrow : "(invalid)"};
+    return {lookup_option(table, value)};
 }
 
 // "Soft reset command  in blind mode succeeded."
@@ -87,7 +86,7 @@ std::size_t unit_inserted(std::span<const std::uint8_t> payload, wchar_t* out, s
     const ipv4 address(in.read_u32());
     return finish(out, capacity,
                   fmt::format_to_n(out, capacity - 1, L"The node '{}-{}.{}.{}.{}' was inserted into the network.",
-                                   option_text(DeviceTypeKeys, type), address.a, address.b, address.c, address.d));
+                                   option_name(DeviceTypeKeys, type), address.a, address.b, address.c, address.d));
 }
 
 // "A alarmed, B alarmed, ..." over the unit's alarm groups.
@@ -137,8 +136,8 @@ std::size_t parameter_diff(std::span<const std::uint8_t> payload, wchar_t* out, 
             const field& f = fields[g.field_index[k]];
             const auto& table = demod_tables_r1.*f.table;
             const auto r = fmt::format_to_n(out + n, capacity - 1 - n, L"{}{} was changed from {} to {}",
-                                            n ? L", " : L"", ascii{f.display}, option_text(table, old_in.read_u8()),
-                                            option_text(table, new_in.read_u8()));
+                                            n ? L", " : L"", ascii{f.display}, option_name(table, old_in.read_u8()),
+                                            option_name(table, new_in.read_u8()));
             n += std::min<std::size_t>(r.size, capacity - 1 - n);
         }
     }

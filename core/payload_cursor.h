@@ -9,6 +9,7 @@
 #include <span>
 #include <string_view>
 
+#include "core/ansi_text.h"
 #include "core/errors.h"
 #include "core/wide.h"
 
@@ -63,11 +64,11 @@ public:
     }
 
     // A u16 count N, then N 8-bit characters, with the same limit.
-    std::string_view read_string()
+    ansi_text read_string()
     {
         const std::size_t count = read_count();
         const std::span<const std::uint8_t> bytes = take(count);
-        return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+        return ansi_text(std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
     }
 
     // The next `n` bytes as they stand.

@@ -1,11 +1,12 @@
 // The two renderer shapes that the host calls through the event type table,
 // and the one place where a renderer's body meets them.
 //
-// A renderer body is a plain function of a payload cursor and an output
-// stream; `xml_renderer<Body>` and `text_renderer<Body>` give it the exact
-// calling convention and argument list the host expects, refuse bad
-// arguments, check the payload size where the event demands one, and stop
-// every exception at the boundary.
+// A renderer body is a plain function of a payload cursor and one form of the
+// output buffer (core/event_output.h); `xml_renderer<Dialect, Body>` and
+// `text_renderer<Body>` give it the exact calling convention and argument list
+// the host expects, refuse bad arguments, check the payload size where the
+// event demands one, and stop every exception at the boundary.
+// `room_needed<Body>` runs the same body over the counting form.
 #pragma once
 
 #include <cstdint>
@@ -59,29 +60,41 @@ struct body_traits;
 
 template <class Result, class Out>
 struct body_traits<Result (*)(payload_cursor&, Out&)> {
-    using stream = Out;
+    using output = Out;
 };
+
+template <auto Body>
+using output_of = typename body_traits<decltype(Body)>::output;
 
 template <class Out>
 void prepare(Out& out) noexcept
 {
-    // XML fragments sit three columns in, inside the host's own document.
-    if constexpr (std::is_base_of_v<ui::event::indented_output, Out>)
-        out.indent += 3;
+    // Element fragments sit three columns in, inside the host's own document.
+    if constexpr (std::is_same_v<Out, ui::event::xml_output>)
+        out.indent_by(3);
 }
+
+template <class Out>
+inline constexpr bool is_xml_dialect =
+    std::is_same_v<Out, ui::event::verbatim_xml_output> || std::is_same_v<Out, ui::event::xml_output>;
 
 } // namespace detail
 
-template <auto Body, class Size = any_size>
+// An XML renderer whose body writes `Dialect`: ui::event::verbatim_xml_output
+// or ui::event::xml_output. The table names the dialect, the body's parameter
+// must agree.
+template <class Dialect, auto Body, class Size = any_size>
 HRESULT KORPS_STDCALL xml_renderer(void*, std::uint32_t payloadBytes, const std::uint8_t* payload, wchar* buffer,
                                    std::uint32_t capacity) noexcept
 {
+    static_assert(detail::is_xml_dialect<Dialect>, "an XML renderer writes one of the two XML dialects");
+    static_assert(std::is_same_v<detail::output_of<Body>, Dialect>, "the body writes another dialect");
     if (!buffer || (!payload && payloadBytes != 0))
         return E_POINTER;
     if (!Size::accepts({payload, payloadBytes}))
         return E_UNEXPECTED;
     return guarded([&] {
-        typename detail::body_traits<decltype(Body)>::stream out(buffer, capacity);
+        Dialect out(buffer, capacity);
         detail::prepare(out);
         payload_cursor in(payload, payloadBytes);
         Body(in, out);
@@ -93,16 +106,58 @@ template <auto Body, class Size = any_size>
 HRESULT KORPS_STDCALL text_renderer(void*, std::uint32_t payloadBytes, const std::uint8_t* payload, wchar* buffer,
                                     std::uint32_t capacity, std::uint32_t* colour) noexcept
 {
+    static_assert(std::is_same_v<detail::output_of<Body>, ui::event::text_output>, "a text body writes text");
     if (!buffer || !colour || (!payload && payloadBytes != 0))
         return E_POINTER;
     if (!Size::accepts({payload, payloadBytes}))
         return E_UNEXPECTED;
     return guarded([&] {
-        typename detail::body_traits<decltype(Body)>::stream out(buffer, capacity);
+        ui::event::text_output out(buffer, capacity);
         payload_cursor in(payload, payloadBytes);
         *colour = Body(in, out);
         return S_OK;
     });
 }
+
+// The room a rendering needs, in units with its terminator, measured by
+// rendering into the counting form of its output: nothing is written. The
+// result is what the renderer returns for the same payload with room enough,
+// and `units` is set only on success.
+using room_function = HRESULT (*)(std::uint32_t payloadBytes, const std::uint8_t* payload,
+                                  std::size_t* units) noexcept;
+
+template <auto Body, class Size = any_size>
+HRESULT room_needed(std::uint32_t payloadBytes, const std::uint8_t* payload, std::size_t* units) noexcept
+{
+    if (!units || (!payload && payloadBytes != 0))
+        return E_POINTER;
+    if (!Size::accepts({payload, payloadBytes}))
+        return E_UNEXPECTED;
+    return guarded([&] {
+        detail::output_of<Body> out(io::text::counting);
+        detail::prepare(out);
+        payload_cursor in(payload, payloadBytes);
+        Body(in, out);
+        *units = out.size() + 1;
+        return S_OK;
+    });
+}
+
+// One form of an event type as the table lists it: its renderer and the
+// measure of the room it needs.
+template <class Renderer>
+struct form {
+    Renderer render = nullptr;
+    room_function room = nullptr;
+};
+
+template <class Dialect, auto Body, class Size = any_size>
+inline constexpr form<EventXmlRenderer> xml_form{xml_renderer<Dialect, Body, Size>, room_needed<Body, Size>};
+
+template <auto Body, class Size = any_size>
+inline constexpr form<EventTextRenderer> text_form{text_renderer<Body, Size>, room_needed<Body, Size>};
+
+// The form of an event type that has no XML.
+inline constexpr form<EventXmlRenderer> no_xml_form{};
 
 } // namespace render

@@ -1,12 +1,13 @@
 // Number shapes shared by every renderer: decimal integers, hexadecimal
-// bytes and dotted IPv4 addresses, written straight into a stream without
-// allocating.
+// bytes and dotted IPv4 addresses, each written as one piece of UTF-16
+// digits without allocating.
 #pragma once
 
 #include <cstdint>
 #include <string_view>
 #include <type_traits>
 
+#include "core/digits.h"
 #include "core/output_stream.h"
 
 // A signed or unsigned integer in decimal: no padding, "-" when negative,
@@ -45,29 +46,35 @@ struct dotted_ipv4 {
 template <text_sink Out>
 Out& operator<<(Out& out, decimal d)
 {
-    char digits[21];
-    char* p = digits + sizeof digits;
-    std::uint64_t m = d.magnitude;
-    do {
-        *--p = static_cast<char>('0' + m % 10);
-        m /= 10;
-    } while (m != 0);
+    wchar units[digits::max_decimal];
+    wchar* const end = units + std::size(units);
+    wchar* p = digits::decimal_before(end, d.magnitude);
     if (d.negative)
         *--p = '-';
-    return out << std::string_view(p, static_cast<std::size_t>(digits + sizeof digits - p));
+    out.write(p, static_cast<std::size_t>(end - p));
+    return out;
 }
 
 template <text_sink Out>
 Out& operator<<(Out& out, hex_byte h)
 {
-    constexpr char digits[] = "0123456789ABCDEF";
-    const char text[2] = {digits[h.value >> 4], digits[h.value & 0xF]};
-    return out << std::string_view(text, 2);
+    const wchar units[2] = {digits::hex[h.value >> 4], digits::hex[h.value & 0xF]};
+    out.write(units, 2);
+    return out;
 }
 
 template <text_sink Out>
 Out& operator<<(Out& out, dotted_ipv4 ip)
 {
-    return out << decimal(ip.address >> 24) << "." << decimal(ip.address >> 16 & 0xFF) << "."
-               << decimal(ip.address >> 8 & 0xFF) << "." << decimal(ip.address & 0xFF);
+    // Built back to front, the four numbers and their dots as one piece.
+    wchar units[15];
+    wchar* const end = units + std::size(units);
+    wchar* p = end;
+    for (int shift = 0; shift < 32; shift += 8) {
+        if (shift)
+            *--p = '.';
+        p = digits::decimal_before(p, ip.address >> shift & 0xFF);
+    }
+    out.write(p, static_cast<std::size_t>(end - p));
+    return out;
 }

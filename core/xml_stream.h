@@ -1,4 +1,5 @@
-// XML output: element writing on top of the indented stream.
+// A layer on the indented stream that writes XML elements: the structured
+// dialect of the XML fragments.
 //
 // Opening an element writes its start tag without the closing ">", so that
 // attributes can still follow; the first write of anything else closes it.
@@ -7,51 +8,58 @@
 #pragma once
 
 #include <array>
-#include <string_view>
+#include <cstdint>
+#include <utility>
 
 #include "core/indented_stream.h"
 
 namespace io::xml::output {
 
-template <class Char, class Base>
-class stream : public Base {
+template <class Char, class Lines>
+class stream {
 public:
-    using Base::Base;
-
-    void write(const char* s, std::size_t n)
+    template <class... Args>
+    explicit stream(Args&&... args) : lines_(std::forward<Args>(args)...)
     {
-        close_start_tag();
-        Base::write(s, n);
     }
 
     void write(const Char* s, std::size_t n)
     {
         close_start_tag();
-        Base::write(s, n);
+        lines_.write(s, n);
     }
 
+    void write_ansi(const char* s, std::size_t n)
+    {
+        close_start_tag();
+        lines_.write_ansi(s, n);
+    }
+
+    std::size_t size() const noexcept { return lines_.size(); }
+    const Char* data() const noexcept { return lines_.data(); }
+
+    // Every line from here on starts `units` further in.
+    void indent_by(std::uint32_t units) noexcept { lines_.indent += units; }
+
     // Writes "<name" and leaves the start tag open.
-    void open_element(std::string_view name)
+    void open_element(wstring_view name)
     {
         if (depth_ == elements_.size())
             throw io::error("elements nested too deeply");
-        write("<", 1);
-        Base::write(name.data(), name.size());
+        close_start_tag();
+        lines_ << "<"_w << name;
         elements_[depth_++] = name;
         tagClosed = false;
     }
 
-    // Adds ` name="value"` to the open start tag.
+    // Adds ` name="value"` to the open start tag; the value goes straight to
+    // the lines beneath, so it does not close the tag.
     template <class Value>
-    void attribute(std::string_view name, const Value& value)
+    void attribute(wstring_view name, const Value& value)
     {
         if (tagClosed)
             throw io::error("unexpected attribute");
-        Base::write(" ", 1);
-        Base::write(name.data(), name.size());
-        Base::write("=\"", 2);
-        static_cast<Base&>(*this) << value;   // bypasses the closing of the tag
-        Base::write("\"", 1);
+        lines_ << " "_w << name << "=\""_w << value << "\""_w;
     }
 
     // "/>" when the start tag is still open, else the end tag.
@@ -59,28 +67,33 @@ public:
     {
         if (depth_ == 0)
             throw io::error("no open element");
-        const std::string_view top = elements_[depth_ - 1];
+        const wstring_view top = elements_[--depth_];
         if (!tagClosed) {
-            Base::write("/>", 2);
+            lines_ << "/>"_w;
             tagClosed = true;
         } else {
-            Base::write("</", 2);
-            Base::write(top.data(), top.size());
-            Base::write(">", 1);
+            lines_ << "</"_w << top << ">"_w;
         }
-        --depth_;
     }
 
-    // An element holding one value as text: <name>value</name>, and `after`
-    // behind it. The tags go out in one piece each.
+    // An element holding one value as text, <name>value</name>, with `after`
+    // behind it: each tag goes out in one piece.
     template <class Value>
-    void element(std::string_view name, const Value& value, std::string_view after = {})
+    void element(wstring_view name, const Value& value, wstring_view after = {})
     {
-        char tag[96];
-        if (name.size() + after.size() + 3 > sizeof tag) {
+        element_with(name, [&] { *this << value; }, after);
+    }
+
+    // The same with whatever `content` writes between the tags; the end tag
+    // follows even when it writes nothing (<name></name>, never <name/>).
+    template <class Content>
+    void element_with(wstring_view name, Content&& content, wstring_view after = {})
+    {
+        Char tag[96];
+        if (name.size() + after.size() + 3 > std::size(tag)) {
             open_element(name);
             close_start_tag();
-            *this << value;
+            content();
             close_element();
             *this << after;
             return;
@@ -89,30 +102,30 @@ public:
         name.copy(tag + 1, name.size());
         tag[name.size() + 1] = '>';
         write(tag, name.size() + 2);
-        *this << value;
+        content();
         tag[0] = '<';
         tag[1] = '/';
         name.copy(tag + 2, name.size());
         tag[name.size() + 2] = '>';
         after.copy(tag + name.size() + 3, after.size());
-        Base::write(tag, name.size() + 3 + after.size());
+        lines_.write(tag, name.size() + 3 + after.size());
     }
 
     bool tagClosed = true;
 
 private:
-
     void close_start_tag()
     {
         if (!tagClosed) {
-            Base::write(">", 1);
+            lines_ << ">"_w;
             tagClosed = true;
         }
     }
 
+    Lines lines_;
     // The names of the open elements, literals of the module; no fragment
     // nests deeper than this.
-    std::array<std::string_view, 16> elements_{};
+    std::array<wstring_view, 16> elements_{};
     std::size_t depth_ = 0;
 };
 

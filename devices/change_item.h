@@ -10,13 +10,13 @@
 
 #include <string_view>
 
-#include "core/output_stream.h"
+#include "core/event_output.h"
 
 namespace change_item_detail {
 
 template <text_sink Out, class Value, class Format>
-void write_value(Out& out, bool present, std::string_view before, const Value& value, const Format& format,
-                 std::string_view after)
+void write_value(Out& out, bool present, wstring_view before, const Value& value, const Format& format,
+                 wstring_view after)
 {
     if (!present)
         return;
@@ -30,31 +30,40 @@ void write_value(Out& out, bool present, std::string_view before, const Value& v
 // "Rx Modulation was changed from QPSK to 8PSK", led by ", " unless it is
 // the first item; " from ..." and " to ..." only for the values present.
 template <text_sink Out, class Value, class Format>
-void write_change_text(bool& first, Out& out, std::string_view display, bool has_old, const Value& old_value,
+void write_change_text(bool& first, Out& out, wstring_view display, bool has_old, const Value& old_value,
                        bool has_new, const Value& new_value, const Format& format)
 {
     if (!has_old && !has_new)
         return;
     if (!first)
-        out << ", ";
-    out << display << " was changed";
-    change_item_detail::write_value(out, has_old, " from ", old_value, format, "");
-    change_item_detail::write_value(out, has_new, " to ", new_value, format, "");
+        out << ", "_w;
+    out << display << " was changed"_w;
+    change_item_detail::write_value(out, has_old, " from "_w, old_value, format, ""_w);
+    change_item_detail::write_value(out, has_new, " to "_w, new_value, format, ""_w);
     first = false;
 }
 
 // <parameter id="RxModulation">, a tab-led <old> and <new> line for the values
-// present, </parameter>; every line ends in a line feed. On the XML stream a
-// start tag left open by the caller is closed before the item.
-template <text_sink Out, class Value, class Format>
-void write_change_xml(bool& first, Out& out, std::string_view key, bool has_old, const Value& old_value,
-                      bool has_new, const Value& new_value, const Format& format)
+// present, </parameter>; every line ends in a line feed. A start tag left open
+// by the caller is closed before the item.
+template <class Value, class Format>
+void write_change_xml(bool& first, ui::event::xml_output& out, wstring_view key, bool has_old,
+                      const Value& old_value, bool has_new, const Value& new_value, const Format& format)
 {
     if (!has_old && !has_new)
         return;
-    out << "<parameter id=\"" << key << "\">\n";
-    change_item_detail::write_value(out, has_old, "\t<old>", old_value, format, "</old>\n");
-    change_item_detail::write_value(out, has_new, "\t<new>", new_value, format, "</new>\n");
-    out << "</parameter>\n";
+    out.open_element("parameter"_w);
+    out.attribute("id"_w, key);
+    out << "\n"_w;
+    const auto value_line = [&](bool present, wstring_view name, const Value& value) {
+        if (!present)
+            return;
+        out << "\t"_w;
+        out.element_with(name, [&] { format(out, value); }, "\n"_w);
+    };
+    value_line(has_old, "old"_w, old_value);
+    value_line(has_new, "new"_w, new_value);
+    out.close_element();
+    out << "\n"_w;
     first = false;
 }

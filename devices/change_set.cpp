@@ -59,7 +59,7 @@ void write_value(payload_cursor& in, ui::event::xml_output& out, body kind)
 
 void write_section(payload_cursor& in, ui::event::xml_output& out, const section& s)
 {
-    open_line(out, "changed", "field", s.field);
+    open_line(out, "changed"_w, "field"_w, s.field);
     if (s.kind == body::routes_a)
         routes::write_route_lists(in, out, routes::layout_a);
     else if (s.kind == body::routes_b)

@@ -13,42 +13,42 @@ using change_sets::section;
 // fields ("Demodualtors" and the two forms of the home state timeout are what
 // the consoles match on).
 constexpr section falcon_sections[] = {
-    {"Name", body::wide_text},
-    {"Address", body::ipv4},
-    {"Routes", body::routes_b},
-    {"QosEnable", body::signed32},
-    {"EnableHeartbeat", body::signed32},
-    {"UnlockAlarmMask", body::signed32},
-    {"FrontPanelLockout", body::signed32},
-    {"AutoHomeStateTimeout", body::unsigned32},
+    {"Name"_w, body::wide_text},
+    {"Address"_w, body::ipv4},
+    {"Routes"_w, body::routes_b},
+    {"QosEnable"_w, body::signed32},
+    {"EnableHeartbeat"_w, body::signed32},
+    {"UnlockAlarmMask"_w, body::signed32},
+    {"FrontPanelLockout"_w, body::signed32},
+    {"AutoHomeStateTimeout"_w, body::unsigned32},
 };
 
 constexpr section osprey_sections[] = {
-    {"Name", body::wide_text},
-    {"FIPS Rate", body::byte},
-    {"Network Id", body::unsigned32},
-    {"IP Address", body::unsigned32},
-    {"SubnetMask", body::unsigned32},
-    {"Heart Beat Enabled", body::unsigned32},
-    {"Auto Home State Timeout", body::unsigned32},
-    {"Management Enabled", body::unsigned32},
-    {"Routes", body::routes_a},
+    {"Name"_w, body::wide_text},
+    {"FIPS Rate"_w, body::byte},
+    {"Network Id"_w, body::unsigned32},
+    {"IP Address"_w, body::unsigned32},
+    {"SubnetMask"_w, body::unsigned32},
+    {"Heart Beat Enabled"_w, body::unsigned32},
+    {"Auto Home State Timeout"_w, body::unsigned32},
+    {"Management Enabled"_w, body::unsigned32},
+    {"Routes"_w, body::routes_a},
 };
 
 constexpr section heron_unit_sections[] = {
-    {"Name", body::wide_text},
-    {"Network Id", body::unsigned32},
-    {"IP Address", body::unsigned32},
-    {"SubnetMask", body::unsigned32},
-    {"Show All Demodualtors", body::signed32},
-    {"Heart Beat Enabled", body::unsigned32},
-    {"Auto Home State Timeout", body::unsigned32},
-    {"Management Enabled", body::unsigned32},
+    {"Name"_w, body::wide_text},
+    {"Network Id"_w, body::unsigned32},
+    {"IP Address"_w, body::unsigned32},
+    {"SubnetMask"_w, body::unsigned32},
+    {"Show All Demodualtors"_w, body::signed32},
+    {"Heart Beat Enabled"_w, body::unsigned32},
+    {"Auto Home State Timeout"_w, body::unsigned32},
+    {"Management Enabled"_w, body::unsigned32},
 };
 
 constexpr section heron_device_sections[] = {
-    {"Name", body::wide_text},
-    {"ECM Controller", body::signed32},
+    {"Name"_w, body::wide_text},
+    {"ECM Controller"_w, body::signed32},
 };
 
 // The second OSPREY row is the first one's list without its last two
@@ -63,14 +63,14 @@ constexpr change_set heron_device{1, heron_device_sections};
 
 static_assert(std::size(falcon_sections) <= 8 && std::size(heron_unit_sections) <= 8 &&
                   std::size(heron_device_sections) <= 8 && osprey_v2_sections <= 8,
-              "a one-byte mask names eight sections at most");
+              "a one-byte mask names eight sections at most"_w);
 static_assert(std::size(osprey_sections) <= 16);
 
 } // namespace
 
 render::colour properties_modified(payload_cursor&, ui::event::text_output& out)
 {
-    out << "Properties were modified.";
+    out << "Properties were modified."_w;
     return render::colours::inventory;
 }
 

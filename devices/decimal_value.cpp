@@ -1,7 +1,6 @@
 #include "devices/decimal_value.h"
 
-#include <algorithm>
-
+#include "core/digits.h"
 #include "core/errors.h"
 
 namespace {
@@ -78,9 +77,9 @@ decimal_value::text decimal_value::digits() const noexcept
 {
     // Built from the right: the significant fractional digits, the point,
     // the integer part, the sign.
-    text t{};
-    char* const end = t.units + text::capacity;
-    char* p = end;
+    text t;
+    wchar* const end = t.units + text::capacity;
+    wchar* p = end;
     std::uint64_t m = magnitude_of(mantissa());
     unsigned fraction = places();
     while (fraction > 0 && m % 10 == 0) {
@@ -88,18 +87,14 @@ decimal_value::text decimal_value::digits() const noexcept
         --fraction;
     }
     for (unsigned i = 0; i < fraction; ++i) {
-        *--p = static_cast<char>('0' + m % 10);
+        *--p = static_cast<wchar>('0' + m % 10);
         m /= 10;
     }
     if (fraction > 0)
         *--p = '.';
-    do {
-        *--p = static_cast<char>('0' + m % 10);
-        m /= 10;
-    } while (m != 0);
+    p = digits::decimal_before(p, m);
     if (mantissa() < 0)
         *--p = '-';
-    t.size = static_cast<std::size_t>(end - p);
-    std::copy(p, end, t.units);
+    t.first = static_cast<std::size_t>(p - t.units);
     return t;
 }

@@ -60,9 +60,9 @@ public:
     // not zero; trailing zeros are dropped, so 1.500 reads "1.5" and 2.000 "2".
     struct text {
         static constexpr std::size_t capacity = 2 + max_places + 20;   // sign, "0.", places, digits
-        char units[capacity];
-        std::size_t size;
-        std::string_view view() const noexcept { return {units, size}; }
+        wchar units[capacity];
+        std::size_t first;   // the digits are units[first] to the end
+        wstring_view view() const noexcept { return {units + first, capacity - first}; }
     };
     text digits() const noexcept;
 

@@ -100,6 +100,6 @@ render::colour device_parameters_changed_text(payload_cursor& in, ui::event::tex
 {
     bool first = true;
     family_a::write_changes(in, out, select(in), first);
-    out << ".";
+    out << "."_w;
     return render::colours::command;
 }

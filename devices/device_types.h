@@ -85,7 +85,7 @@ static_assert(values_unique(DeviceTypeKeys), "one row per code");
 static_assert(texts_unique_lower_case(DeviceTypeKeys), "keys are display-name type words");
 
 // The key of an event's device type byte, or "(invalid)" for a code we do not know.
-constexpr const wchar* device_type_name(std::uint8_t type) noexcept
+constexpr wstring_view device_type_name(std::uint8_t type) noexcept
 {
     return lookup_option(DeviceTypeKeys, type);
 }

@@ -24,16 +24,22 @@ struct UnitEntry {
 #define OPTION(text, value) OptionEntry{text, WSTR(text), sizeof(text), (value)}
 #define UNIT(text, multiplier) UnitEntry{text, WSTR(text), (multiplier)}
 
-inline constexpr const wchar* invalid_option_text = WSTR("(invalid)");
+inline constexpr wstring_view invalid_option_text = "(invalid)"_w;
+
+// The row's text, its length known.
+constexpr wstring_view option_text(const OptionEntry& row) noexcept
+{
+    return {row.wide, row.size - 1};
+}
 
 // First row whose value matches, compared at the width of the field shown;
 // "(invalid)" when no row does.
 template <class Value>
-constexpr const wchar* lookup_option(std::span<const OptionEntry> table, Value value) noexcept
+constexpr wstring_view lookup_option(std::span<const OptionEntry> table, Value value) noexcept
 {
     for (const OptionEntry& row : table)
         if (static_cast<Value>(row.value) == value)
-            return row.wide;
+            return option_text(row);
     return invalid_option_text;
 }
 

@@ -43,13 +43,13 @@ std::size_t read_count(payload_cursor& in, std::size_t smallest_entry)
 
 // A removed or added route: every field of the layout.
 void write_whole_entries(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout,
-                         std::string_view element)
+                         wstring_view element)
 {
     const std::size_t count = read_count(in, whole_entry_bytes(layout));
     for (std::size_t i = 0; i < count; ++i) {
         open_line(out, element);
         for (const field& f : layout)
-            value_line(out, "field", "name", f.name, [&] { write_value(in, out, f); });
+            value_line(out, "field"_w, "name"_w, f.name, [&] { write_value(in, out, f); });
         close_line(out);
     }
 }
@@ -59,11 +59,11 @@ void write_modified_entries(payload_cursor& in, ui::event::xml_output& out, std:
 {
     const std::size_t count = read_count(in, key_and_mask_bytes);
     for (std::size_t i = 0; i < count; ++i) {
-        open_line(out, "modified-element");
-        value_line(out, "key", "field", "Network", [&] { out << dotted_ipv4{in.read_u32()}; });
-        value_line(out, "key", "field", "Mask", [&] { out << dotted_ipv4{in.read_u32()}; });
+        open_line(out, "modified-element"_w);
+        value_line(out, "key"_w, "field"_w, "Network"_w, [&] { out << dotted_ipv4{in.read_u32()}; });
+        value_line(out, "key"_w, "field"_w, "Mask"_w, [&] { out << dotted_ipv4{in.read_u32()}; });
         for_each_set_bit(in.read_u16(), layout, [&](const field& f) {
-            open_line(out, "changed", "field", f.name);
+            open_line(out, "changed"_w, "field"_w, f.name);
             change_sets::old_and_new(out, [&] { write_value(in, out, f); });
             close_line(out);
         });
@@ -75,9 +75,9 @@ void write_modified_entries(payload_cursor& in, ui::event::xml_output& out, std:
 
 void write_route_lists(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout)
 {
-    write_whole_entries(in, out, layout, "removed-element");
+    write_whole_entries(in, out, layout, "removed-element"_w);
     write_modified_entries(in, out, layout);
-    write_whole_entries(in, out, layout, "added-element");
+    write_whole_entries(in, out, layout, "added-element"_w);
 }
 
 } // namespace routes

@@ -33,18 +33,18 @@ static_assert(values_unique(switch_states) && values_unique(interfaces));
 // One field of a route: an address when `table` is empty, else an
 // enumeration shown through `table`.
 struct field {
-    std::string_view name;
+    wstring_view name;
     std::span<const OptionEntry> table;
 };
 
 inline constexpr field layout_a[] = {
-    {"Enabled", switch_states}, {"Network", {}}, {"Mask", {}}, {"Gateway", {}}, {"Interface", interfaces},
+    {"Enabled"_w, switch_states}, {"Network"_w, {}}, {"Mask"_w, {}}, {"Gateway"_w, {}}, {"Interface"_w, interfaces},
 };
 
 inline constexpr field layout_b[] = {
-    {"Enabled", switch_states},  {"Network", {}},         {"Mask", {}},
-    {"Gateway", {}},             {"Interface", interfaces}, {"HeaderComp", switch_states},
-    {"PayloadComp", switch_states}, {"Encrypt", switch_states},
+    {"Enabled"_w, switch_states},  {"Network"_w, {}},         {"Mask"_w, {}},
+    {"Gateway"_w, {}},             {"Interface"_w, interfaces}, {"HeaderComp"_w, switch_states},
+    {"PayloadComp"_w, switch_states}, {"Encrypt"_w, switch_states},
 };
 
 static_assert(std::size(layout_b) <= 16, "a modified route's field mask has 16 bits");

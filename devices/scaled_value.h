@@ -33,5 +33,5 @@ template <text_sink Out>
 Out& operator<<(Out& out, const scaled_value& scaled)
 {
     const unit_amount converted = in_unit(scaled);
-    return out << converted.amount << " " << converted.unit.wide;
+    return out << converted.amount << " "_w << converted.unit.wide;
 }

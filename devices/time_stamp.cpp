@@ -2,19 +2,7 @@
 
 #include <chrono>
 
-namespace {
-
-// Writes `value` as exactly `width` digits, zero-padded, and moves past them.
-char* put(char* p, unsigned value, unsigned width) noexcept
-{
-    for (unsigned i = width; i-- > 0;) {
-        p[i] = static_cast<char>('0' + value % 10);
-        value /= 10;
-    }
-    return p + width;
-}
-
-} // namespace
+#include "core/digits.h"
 
 utc_time::text utc_time::digits() const noexcept
 {
@@ -25,17 +13,17 @@ utc_time::text utc_time::digits() const noexcept
     const hh_mm_ss clock{instant - day};
 
     text t{};
-    char* p = t.units;
-    p = put(p, static_cast<unsigned>(static_cast<int>(date.year())), 4);
+    wchar* p = t.units;
+    p = digits::fixed_width(p, static_cast<unsigned>(static_cast<int>(date.year())), 4);
     *p++ = '-';
-    p = put(p, static_cast<unsigned>(date.month()), 2);
+    p = digits::fixed_width(p, static_cast<unsigned>(date.month()), 2);
     *p++ = '-';
-    p = put(p, static_cast<unsigned>(date.day()), 2);
+    p = digits::fixed_width(p, static_cast<unsigned>(date.day()), 2);
     *p++ = ' ';
-    p = put(p, static_cast<unsigned>(clock.hours().count()), 2);
+    p = digits::fixed_width(p, static_cast<unsigned>(clock.hours().count()), 2);
     *p++ = ':';
-    p = put(p, static_cast<unsigned>(clock.minutes().count()), 2);
+    p = digits::fixed_width(p, static_cast<unsigned>(clock.minutes().count()), 2);
     *p++ = ':';
-    put(p, static_cast<unsigned>(clock.seconds().count()), 2);
+    digits::fixed_width(p, static_cast<unsigned>(clock.seconds().count()), 2);
     return t;
 }

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+#include <iterator>
 
 #include "core/output_stream.h"
 
@@ -12,8 +12,8 @@ struct utc_time {
     std::uint32_t seconds;
 
     struct text {
-        char units[19];
-        std::string_view view() const noexcept { return {units, sizeof units}; }
+        wchar units[19];
+        wstring_view view() const noexcept { return {units, std::size(units)}; }
     };
     text digits() const noexcept;
 };

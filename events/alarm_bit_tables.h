@@ -10,9 +10,11 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/wide.h"
+
 struct alarm_bit {
     std::int32_t bit;   // counted from the group's first byte, bit 0 lowest
-    const char* name;
+    wstring_view name;
 };
 
 // Later units reuse the alarm groups of earlier ones, with a few bits more or
@@ -55,107 +57,107 @@ namespace alarm_bits {
 
 // Modems with one demodulator ('4', '5') and the multi-demodulator chassis ('7', '8').
 inline constexpr alarm_bit modem_unit[] = {
-    {0, "+5V"},
-    {1, "+12V"},
-    {2, "-5V"},
-    {3, "+23V"},
-    {4, "-12V"},
-    {5, "Tx Synthesizer"},
-    {6, "Rx 1st LO synth"},
-    {7, "Rx 2nd LO synth"},
-    {8, "Ext Ref PLL"},
-    {9, "EEPROM Checksum"},
+    {0, "+5V"_w},
+    {1, "+12V"_w},
+    {2, "-5V"_w},
+    {3, "+23V"_w},
+    {4, "-12V"_w},
+    {5, "Tx Synthesizer"_w},
+    {6, "Rx 1st LO synth"_w},
+    {7, "Rx 2nd LO synth"_w},
+    {8, "Ext Ref PLL"_w},
+    {9, "EEPROM Checksum"_w},
 };
 
 inline constexpr alarm_bit modem_transmit[] = {
-    {0, "Clock"},
-    {1, "FIFO Slip"},
-    {2, "AIS"},
-    {3, "AUPC Upper Limit"},
-    {4, "External Reference Lost"},
-    {5, "BUC Current Window"},
-    {6, "BUC Voltage Threshold"},
-    {7, "BUC Checksum"},
-    {8, "BUC PLL lock"},
-    {9, "BUC Temperature"},
-    {10, "G.703 Bipolar Violation"},
+    {0, "Clock"_w},
+    {1, "FIFO Slip"_w},
+    {2, "AIS"_w},
+    {3, "AUPC Upper Limit"_w},
+    {4, "External Reference Lost"_w},
+    {5, "BUC Current Window"_w},
+    {6, "BUC Voltage Threshold"_w},
+    {7, "BUC Checksum"_w},
+    {8, "BUC PLL lock"_w},
+    {9, "BUC Temperature"_w},
+    {10, "G.703 Bipolar Violation"_w},
 };
 
 inline constexpr alarm_bit modem_receive[] = {
-    {0, "Demod Lock"},
-    {1, "AGC"},
-    {2, "RS Frame Sync"},
-    {3, "Xlink Frame Sync"},
-    {4, "Buffer Underflow"},
-    {5, "Buffer Overflow"},
-    {6, "EbNo"},
-    {7, "AIS"},
-    {8, "Current"},
-    {9, "Voltage"},
+    {0, "Demod Lock"_w},
+    {1, "AGC"_w},
+    {2, "RS Frame Sync"_w},
+    {3, "Xlink Frame Sync"_w},
+    {4, "Buffer Underflow"_w},
+    {5, "Buffer Overflow"_w},
+    {6, "EbNo"_w},
+    {7, "AIS"_w},
+    {8, "Current"_w},
+    {9, "Voltage"_w},
 };
 
 inline constexpr alarm_bit chassis_demodulator[] = {
-    {0, "Rx Demod Lock"},
-    {1, "Rx AGC"},
-    {4, "Rx Buffer Underflow"},
-    {5, "Rx Buffer Overflow"},
-    {6, "Rx EbNo"},
-    {8, "LNB Current"},
-    {9, "LNB Voltage"},
+    {0, "Rx Demod Lock"_w},
+    {1, "Rx AGC"_w},
+    {4, "Rx Buffer Underflow"_w},
+    {5, "Rx Buffer Overflow"_w},
+    {6, "Rx EbNo"_w},
+    {8, "LNB Current"_w},
+    {9, "LNB Voltage"_w},
 };
 
 // The FPGA-based modem (':').
 inline constexpr alarm_bit fpga_unit[] = {
-    {0, "+5V"},
-    {1, "+33V"},
-    {2, "+25V"},
-    {3, "+15V"},
-    {4, "+12V"},
-    {5, "-12V"},
-    {6, "+18V"},
-    {7, "Cooling Fan"},
-    {8, "Ext Ref Activity"},
-    {9, "Unlocked 192Mhz Clock"},
-    {10, "Unlocked 10MHz Clock"},
-    {11, "M&C FPGA Not Loaded"},
-    {12, "Mod FPGA Not Loaded"},
-    {13, "Demod FPGA Not Loaded"},
-    {14, "Decoder FPGA Not Loaded"},
-    {15, "Tx Intf FPGA Not Loaded"},
-    {16, "Rx Intf FPGA Not Loaded"},
-    {17, "FEC1 FPGA Not Loaded"},
-    {18, "FEC2 FPGA Not Loaded"},
-    {19, "OPC FPGA Not Loaded"},
-    {20, "FPGA DCM Not Locked"},
+    {0, "+5V"_w},
+    {1, "+33V"_w},
+    {2, "+25V"_w},
+    {3, "+15V"_w},
+    {4, "+12V"_w},
+    {5, "-12V"_w},
+    {6, "+18V"_w},
+    {7, "Cooling Fan"_w},
+    {8, "Ext Ref Activity"_w},
+    {9, "Unlocked 192Mhz Clock"_w},
+    {10, "Unlocked 10MHz Clock"_w},
+    {11, "M&C FPGA Not Loaded"_w},
+    {12, "Mod FPGA Not Loaded"_w},
+    {13, "Demod FPGA Not Loaded"_w},
+    {14, "Decoder FPGA Not Loaded"_w},
+    {15, "Tx Intf FPGA Not Loaded"_w},
+    {16, "Rx Intf FPGA Not Loaded"_w},
+    {17, "FEC1 FPGA Not Loaded"_w},
+    {18, "FEC2 FPGA Not Loaded"_w},
+    {19, "OPC FPGA Not Loaded"_w},
+    {20, "FPGA DCM Not Locked"_w},
 };
 
 inline constexpr alarm_bit fpga_transmit[] = {
-    {0, "Symbol Clock Not Locked"},
-    {1, "RF Synthisizer Not Locked"},
-    {2, "No IQ Activity"},
-    {3, "Nyquist Filter Clipping"},
-    {4, "Intf Clock PLL Not Locked"},
-    {5, "Intf Teres Clock No Activity"},
-    {6, "Intf SCT PLL Not Locked"},
-    {7, "Intf No Data Activity"},
+    {0, "Symbol Clock Not Locked"_w},
+    {1, "RF Synthisizer Not Locked"_w},
+    {2, "No IQ Activity"_w},
+    {3, "Nyquist Filter Clipping"_w},
+    {4, "Intf Clock PLL Not Locked"_w},
+    {5, "Intf Teres Clock No Activity"_w},
+    {6, "Intf SCT PLL Not Locked"_w},
+    {7, "Intf No Data Activity"_w},
 };
 
 inline constexpr alarm_bit fpga_receive[] = {
-    {0, "IF Unlock"},
-    {1, "Data Decoder Unlock"},
-    {2, "RF Synth Unlock"},
-    {3, "IQ No Activity"},
-    {4, "Intf Demux Unlock"},
-    {5, "Intf Buffer Fault"},
-    {6, "Intf Buffer PreSlip"},
-    {7, "Intf Buffer Overflow"},
-    {8, "Intf Buffer Underflow"},
-    {9, "Intf Buffer Clock PLL Unlock"},
-    {10, "Intf Buffer Clock Ref No Act"},
-    {11, "Intf Data AIS"},
-    {12, "Intf EbNo Alm"},
-    {13, "Power > 40dBc"},
-    {14, "Power > 20dBm"},
+    {0, "IF Unlock"_w},
+    {1, "Data Decoder Unlock"_w},
+    {2, "RF Synth Unlock"_w},
+    {3, "IQ No Activity"_w},
+    {4, "Intf Demux Unlock"_w},
+    {5, "Intf Buffer Fault"_w},
+    {6, "Intf Buffer PreSlip"_w},
+    {7, "Intf Buffer Overflow"_w},
+    {8, "Intf Buffer Underflow"_w},
+    {9, "Intf Buffer Clock PLL Unlock"_w},
+    {10, "Intf Buffer Clock Ref No Act"_w},
+    {11, "Intf Data AIS"_w},
+    {12, "Intf EbNo Alm"_w},
+    {13, "Power > 40dBc"_w},
+    {14, "Power > 20dBm"_w},
 };
 
 // The packet modem ('X'): the modem's alarms, less the +23V rail, plus two
@@ -163,20 +165,20 @@ inline constexpr alarm_bit fpga_receive[] = {
 inline constexpr auto packet_unit = without(modem_unit, {3});
 
 inline constexpr auto packet_transmit = followed_by(modem_transmit, {
-    {11, "G.703 Signal Loss"},
-    {12, "Tx PaP Ethernet"},
+    {11, "G.703 Signal Loss"_w},
+    {12, "Tx PaP Ethernet"_w},
 });
 
 inline constexpr alarm_bit packet_receive[] = {
-    {0, "Demod Lock"},
-    {1, "AGC"},
-    {3, "Xlink Frame Sync"},
-    {4, "Buffer Underflow"},
-    {5, "Buffer Overflow"},
-    {6, "EbNo"},
-    {7, "AIS"},
-    {8, "LNB Current"},
-    {9, "LNB Voltage"},
+    {0, "Demod Lock"_w},
+    {1, "AGC"_w},
+    {3, "Xlink Frame Sync"_w},
+    {4, "Buffer Underflow"_w},
+    {5, "Buffer Overflow"_w},
+    {6, "EbNo"_w},
+    {7, "AIS"_w},
+    {8, "LNB Current"_w},
+    {9, "LNB Voltage"_w},
 };
 
 // The receive-only chassis ('^'): no transmitter, +23V rail, external

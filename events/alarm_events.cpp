@@ -17,7 +17,7 @@ namespace {
 // An alarm's move between statuses: the payload holds the old and the new
 // status byte, then the alarm's identifier.
 struct alarm_status_change {
-    const char* alarm;
+    ansi_text alarm;   // as the host registered it
     const alarm_status_row& from;
     const alarm_status_row& to;
 };
@@ -28,7 +28,7 @@ alarm_status_change read_alarm_status_change(payload_cursor& in)
     const std::uint8_t to = in.read_u8();
     GUID id;
     std::memcpy(&id, in.take(sizeof id).data(), sizeof id);
-    return {alarm_types::name_of(id), alarm_status(from), alarm_status(to)};
+    return {ansi_text(alarm_types::name_of(id)), alarm_status(from), alarm_status(to)};
 }
 
 // Hands every changed bit of the record's named alarms to `out`, group by
@@ -60,17 +60,17 @@ public:
 
     void state_change(render::alarm_state from, render::alarm_state to)
     {
-        out_ << "Alarm state changed from '" << render::alarm_state_name(from) << "' to '"
-             << render::alarm_state_name(to) << "'";
+        out_ << "Alarm state changed from '"_w << render::alarm_state_name(from) << "' to '"_w
+             << render::alarm_state_name(to) << "'"_w;
         if (to != render::alarm_state::ok)
             ++alarms_;
         continued_ = true;
     }
 
-    void alarm(const char* name, bool raised)
+    void alarm(wstring_view name, bool raised)
     {
         separate();
-        out_ << name << (raised ? " alarmed" : " alarm cleared");
+        out_ << name << (raised ? " alarmed"_w : " alarm cleared"_w);
         if (raised)
             ++alarms_;
         continued_ = true;
@@ -80,7 +80,7 @@ public:
     void open_device(std::uint32_t number)
     {
         separate();
-        out_ << "Device " << decimal(number) << ": ";
+        out_ << "Device "_w << decimal(number) << ": "_w;
         continued_ = false;
     }
 
@@ -94,7 +94,7 @@ private:
     void separate()
     {
         if (continued_)
-            out_ << ", ";
+            out_ << ", "_w;
     }
 
     ui::event::text_output& out_;
@@ -110,27 +110,27 @@ public:
 
     void state_change(render::alarm_state from, render::alarm_state to)
     {
-        out_.open_element("alarm-state");
-        out_ << "\n";
-        write_element_line(out_, "old", render::alarm_state_name(from));
-        write_element_line(out_, "new", render::alarm_state_name(to));
+        out_.open_element("alarm-state"_w);
+        out_ << "\n"_w;
+        write_element_line(out_, "old"_w, render::alarm_state_name(from));
+        write_element_line(out_, "new"_w, render::alarm_state_name(to));
         out_.close_element();
-        out_ << "\n";
+        out_ << "\n"_w;
     }
 
-    void alarm(const char* name, bool raised) { write_element_line(out_, raised ? "raised" : "cleared", name); }
+    void alarm(wstring_view name, bool raised) { write_element_line(out_, raised ? "raised"_w : "cleared"_w, name); }
 
     void open_device(std::uint32_t number)
     {
-        out_.open_element("device");
-        out_.attribute("address", decimal(number));
-        out_ << "\n";
+        out_.open_element("device"_w);
+        out_.attribute("address"_w, decimal(number));
+        out_ << "\n"_w;
     }
 
     void close_device()
     {
         out_.close_element();
-        out_ << "\n";
+        out_ << "\n"_w;
     }
 
     bool covers(const alarm_layout& layout) const noexcept { return layout.in_xml; }
@@ -156,32 +156,32 @@ void describe_unit_alarms(payload_cursor& in, Listing& listing)
 void alarm_status_changed_xml(payload_cursor& in, ui::event::xml_output& out)
 {
     const alarm_status_change change = read_alarm_status_change(in);
-    write_element_line(out, "Identifier", change.alarm);
-    write_element_line(out, "OldState", change.from.name);
-    write_element_line(out, "NewState", change.to.name);
+    write_element_line(out, "Identifier"_w, change.alarm);
+    write_element_line(out, "OldState"_w, change.from.name);
+    write_element_line(out, "NewState"_w, change.to.name);
 }
 
 render::colour alarm_status_changed_text(payload_cursor& in, ui::event::text_output& out)
 {
     const alarm_status_change change = read_alarm_status_change(in);
-    out << change.alarm << " changed from " << change.from.name << " to " << change.to.name;
+    out << change.alarm << " changed from "_w << change.from.name << " to "_w << change.to.name;
     return change.to.colour;
 }
 
-void unit_status_xml(payload_cursor& in, ui::event::text_output& out)
+void unit_status_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
     const std::int32_t from = in.read_i32();
     const std::int32_t to = in.read_i32();
-    out << "\t\t<!-- Status Change -->\n"
-        << "\t\t<old-status>" << decimal(from) << "</old-status>\n"
-        << "\t\t<new-status>" << decimal(to) << "</new-status>";
+    out << "\t\t<!-- Status Change -->\n"_w
+        << "\t\t<old-status>"_w << decimal(from) << "</old-status>\n"_w
+        << "\t\t<new-status>"_w << decimal(to) << "</new-status>"_w;
 }
 
 render::colour unit_status_text(payload_cursor& in, ui::event::text_output& out)
 {
     const unit_status from{in.read_i32()};
     const unit_status to{in.read_i32()};
-    out << "Status changed from " << from << " to " << to << ".";
+    out << "Status changed from "_w << from << " to "_w << to << "."_w;
     return colour_of(to);
 }
 

@@ -5,7 +5,7 @@
 
 void alarm_status_changed_xml(payload_cursor& in, ui::event::xml_output& out);
 render::colour alarm_status_changed_text(payload_cursor& in, ui::event::text_output& out);
-void unit_status_xml(payload_cursor& in, ui::event::text_output& out);
+void unit_status_xml(payload_cursor& in, ui::event::verbatim_xml_output& out);
 render::colour unit_status_text(payload_cursor& in, ui::event::text_output& out);
 void unit_alarm_state_changed_xml(payload_cursor& in, ui::event::xml_output& out);
 render::colour unit_alarm_state_changed_text(payload_cursor& in, ui::event::text_output& out);

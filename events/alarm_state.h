@@ -36,7 +36,7 @@ inline const OptionEntry& alarm_state_option(std::size_t position)
 }
 
 // The name of a state, or "(invalid)" for a value no row holds.
-constexpr const wchar* alarm_state_name(alarm_state state) noexcept
+constexpr wstring_view alarm_state_name(alarm_state state) noexcept
 {
     return lookup_option(alarm_state_options, static_cast<std::uint32_t>(state));
 }

@@ -8,19 +8,19 @@
 
 struct alarm_status_row {
     std::uint8_t value;
-    const char* name;
+    wstring_view name;
     render::colour colour;
 };
 
 inline constexpr alarm_status_row alarm_statuses[] = {
-    {0, "Unknown", render::colours::grey},
-    {1, "OK", render::colours::green},
-    {2, "Latched", render::colours::yellow},
-    {3, "Alarmed", render::colours::red},
+    {0, "Unknown"_w, render::colours::grey},
+    {1, "OK"_w, render::colours::green},
+    {2, "Latched"_w, render::colours::yellow},
+    {3, "Alarmed"_w, render::colours::red},
 };
 
 // What a status byte outside the table shows as.
-inline constexpr alarm_status_row bad_alarm_status = {0, "<bad value>", render::colours::grey};
+inline constexpr alarm_status_row bad_alarm_status = {0, "<bad value>"_w, render::colours::grey};
 
 constexpr const alarm_status_row& alarm_status(std::uint8_t value) noexcept
 {

@@ -9,27 +9,29 @@ namespace {
 
 using render::colours::command;
 
-constexpr std::string_view registration_sources[] = {"system", "unit", "user"};
+constexpr wstring_view registration_sources[] = {"system"_w, "unit"_w, "user"_w};
 
-std::string_view registration_source(std::uint8_t code) noexcept
+wstring_view registration_source(std::uint8_t code) noexcept
 {
-    const std::string_view* name = coded_name(registration_sources, code);
-    return name ? *name : "unknown";
+    const wstring_view* name = coded_name(registration_sources, code);
+    return name ? *name : "unknown"_w;
 }
 
 // Unit and subnet resets word their type differently in each form; the
 // blanks and tabs of each row are part of its output.
-constexpr reset_wording unit_reset_sentence{" reset command ", "Unknown reset command (", ") "};
-constexpr reset_wording subnet_reset_sentence{" Reset", "Unknown reset command (", ")"};
-constexpr reset_wording unit_reset_element{"", "Unknown(", ")"};
-constexpr reset_wording subnet_reset_element{"", "\t\tUnknown(", ")"};
+constexpr reset_wording unit_reset_sentence{" reset command "_w, "Unknown reset command ("_w, ") "_w};
+constexpr reset_wording subnet_reset_sentence{" Reset"_w, "Unknown reset command ("_w, ")"_w};
+constexpr reset_wording unit_reset_element{""_w, "Unknown("_w, ")"_w};
+// Deliberate: the two tabs stand inside the element, before "Unknown(".
+constexpr reset_wording subnet_reset_element{""_w, "\t\tUnknown("_w, ")"_w};
 
-constexpr outcome_wording registration_outcome{"succeeded.", "failed: ", ""};
-constexpr outcome_wording reset_outcome{"succeeded.", "failed with an error of '", "'."};
+constexpr outcome_wording registration_outcome{"succeeded."_w, "failed: "_w, ""_w};
+constexpr outcome_wording reset_outcome{"succeeded."_w, "failed with an error of '"_w, "'."_w};
 // Only the subnet reset ends its success element with a line break.
-constexpr outcome_wording unit_reset_result_element{"\t\t<result code='success'/>", failed_result_element_open,
+// Deliberate: no line break after the success element of the unit reset.
+constexpr outcome_wording unit_reset_result_element{"\t\t<result code='success'/>"_w, failed_result_element_open,
                                                     failed_result_element_close};
-constexpr outcome_wording subnet_reset_result_element{"\t\t<result code='success'/>\n", failed_result_element_open,
+constexpr outcome_wording subnet_reset_result_element{"\t\t<result code='success'/>\n"_w, failed_result_element_open,
                                                       failed_result_element_close};
 
 // Subnet address and mask, as "10.1.0.0:255.255.0.0" in the sentence and as
@@ -49,16 +51,19 @@ subnet read_subnet(payload_cursor& in)
 
 void unit_registration_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    const std::string_view source = registration_source(in.read_u8());
-    write_element_line(out, "source", source);
+    const wstring_view source = registration_source(in.read_u8());
+    write_element_line(out, "source"_w, source);
     const auto result = read_command_result<&payload_cursor::read_string>(in);
-    write_element_line(out, "result", result.failed() ? result.error : std::string_view("succeeded"));
+    if (result.failed())
+        write_element_line(out, "result"_w, result.error);
+    else
+        write_element_line(out, "result"_w, "succeeded"_w);
 }
 
 render::colour unit_registration_text(payload_cursor& in, ui::event::text_output& out)
 {
-    const std::string_view source = registration_source(in.read_u8());
-    out << "A " << source << " generated registration ";
+    const wstring_view source = registration_source(in.read_u8());
+    out << "A "_w << source << " generated registration "_w;
     const auto result = read_command_result<&payload_cursor::read_string>(in);
     write_outcome(out, result, registration_outcome);
     return result.failed() ? render::colours::red : render::colours::green;
@@ -67,17 +72,18 @@ render::colour unit_registration_text(payload_cursor& in, ui::event::text_output
 render::colour multicast_port_failure_text(payload_cursor& in, ui::event::text_output& out)
 {
     const std::uint16_t count = in.read_u16();
-    out << "Multicast Port Failure: ";
+    out << "Multicast Port Failure: "_w;
     // The size rule of the event has already matched the count against the
     // payload, so the message may be as long as it says.
     write_utf16le(out, in.take(2 * std::size_t(count)));
     return render::colours::failure;
 }
 
-void unit_reset_xml(payload_cursor& in, ui::event::text_output& out)
+void unit_reset_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
     const std::int32_t type = in.read_i32();
-    out << "\t\t\t<reset-type>" << reset_type{type, unit_reset_element} << "</reset-type>\n";
+    // Deliberate: three tabs, one more than every other line of the fragment.
+    out << "\t\t\t<reset-type>"_w << reset_type{type, unit_reset_element} << "</reset-type>\n"_w;
     write_blind_mode_element(out, read_blind_mode(in));
     write_outcome(out, read_command_result(in), unit_reset_result_element);
 }
@@ -87,18 +93,19 @@ render::colour unit_reset_text(payload_cursor& in, ui::event::text_output& out)
     // The type is a u32 that the sentence has always shown signed.
     out << reset_type{in.read_i32(), unit_reset_sentence};
     if (read_blind_mode(in))
-        out << " in blind mode ";
+        // Deliberate: both blanks stay, so the sentence holds two in a row ("command  in").
+        out << " in blind mode "_w;
     write_outcome(out, read_command_result(in), reset_outcome);
     return command;
 }
 
-void subnet_reset_xml(payload_cursor& in, ui::event::text_output& out)
+void subnet_reset_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
     const std::uint8_t type = in.read_u8();
-    out << "\t\t<reset-type>" << reset_type{type, subnet_reset_element} << "</reset-type>\n";
+    out << "\t\t<reset-type>"_w << reset_type{type, subnet_reset_element} << "</reset-type>\n"_w;
     const subnet net = read_subnet(in);
-    out << "\t\t<Address>" << dotted_ipv4{net.address} << "</Address>\n";
-    out << "\t\t<Mask>" << dotted_ipv4{net.mask} << "</Mask>\n";
+    out << "\t\t<Address>"_w << dotted_ipv4{net.address} << "</Address>\n"_w;
+    out << "\t\t<Mask>"_w << dotted_ipv4{net.mask} << "</Mask>\n"_w;
     write_outcome(out, read_command_result(in), subnet_reset_result_element);
 }
 
@@ -106,17 +113,17 @@ render::colour subnet_reset_text(payload_cursor& in, ui::event::text_output& out
 {
     out << reset_type{in.read_u8(), subnet_reset_sentence};
     const subnet net = read_subnet(in);
-    out << " on subnet " << dotted_ipv4{net.address} << ":" << dotted_ipv4{net.mask} << " ";
+    out << " on subnet "_w << dotted_ipv4{net.address} << ":"_w << dotted_ipv4{net.mask} << " "_w;
     write_outcome(out, read_command_result(in), reset_outcome);
     return command;
 }
 
-void save_to_flash_xml(payload_cursor& in, ui::event::text_output& out)
+void save_to_flash_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
-    out << "\t\t<!-- Save EEPROM -->\n";
+    out << "\t\t<!-- Save EEPROM -->\n"_w;
     write_blind_mode_element(out, read_blind_mode(in));
     const payload_text result = in.read_wstring();
-    write_result_element(out, result.empty() ? wstring_view(WSTR("success")) : result.view());
+    write_result_element(out, result.empty() ? "success"_w : result.view());
 }
 
 render::colour save_to_flash_text(payload_cursor& in, ui::event::text_output& out)
@@ -124,26 +131,26 @@ render::colour save_to_flash_text(payload_cursor& in, ui::event::text_output& ou
     const bool blind = read_blind_mode(in);
     // The unit reports trouble only in the text that follows; the sentence
     // stands either way.
-    out << "Unit's configuration successfully saved to flash.";
+    out << "Unit's configuration successfully saved to flash."_w;
     if (blind)
-        out << " in blind mode";
+        out << " in blind mode"_w;
     out << in.read_wstring();
     return command;
 }
 
-void force_registration_xml(payload_cursor& in, ui::event::text_output& out)
+void force_registration_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
-    out << "\t\t<!-- Force Registration -->\n";
-    write_result_element_if_any(out, in.read_wstring(), "\t\t");
+    out << "\t\t<!-- Force Registration -->\n"_w;
+    write_result_element_if_any(out, in.read_wstring(), "\t\t"_w);
 }
 
 render::colour force_registration_text(payload_cursor& in, ui::event::text_output& out)
 {
-    out << "Force Registration";
+    out << "Force Registration"_w;
     const payload_text result = in.read_wstring();
     if (result.empty())
-        out << " command sent";
+        out << " command sent"_w;
     else
-        out << " failed: " << result;
+        out << " failed: "_w << result;
     return command;
 }

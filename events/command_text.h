@@ -17,7 +17,7 @@
 // The name a coded field selects from a table counted from zero; null for a
 // code outside the table, negative codes included.
 template <std::size_t N, class Code>
-constexpr const std::string_view* coded_name(const std::string_view (&names)[N], Code code) noexcept
+constexpr const wstring_view* coded_name(const wstring_view (&names)[N], Code code) noexcept
 {
     return std::cmp_greater_equal(code, 0) && std::cmp_less(code, N) ? &names[static_cast<std::size_t>(code)]
                                                                        : nullptr;
@@ -50,9 +50,9 @@ auto read_command_result(payload_cursor& in)
 // How one form words the outcome: a fixed success text, or the error text
 // between two pieces.
 struct outcome_wording {
-    std::string_view succeeded;
-    std::string_view failed_open;
-    std::string_view failed_close;
+    wstring_view succeeded;
+    wstring_view failed_open;
+    wstring_view failed_close;
 };
 
 template <text_sink Out, class Text>
@@ -66,19 +66,19 @@ void write_outcome(Out& out, const command_result<Text>& result, const outcome_w
 
 // The opening and closing of the XML result element of a failed command;
 // the error text stands quoted between them.
-inline constexpr std::string_view failed_result_element_open = "\t\t<result code='failed'>\"";
-inline constexpr std::string_view failed_result_element_close = "\"</result>\n";
+inline constexpr wstring_view failed_result_element_open = "\t\t<result code='failed'>\""_w;
+inline constexpr wstring_view failed_result_element_close = "\"</result>\n"_w;
 
 // --- Reset types ------------------------------------------------------------
 
-inline constexpr std::string_view reset_type_names[] = {"Hard", "Soft", "Firm"};
+inline constexpr wstring_view reset_type_names[] = {"Hard"_w, "Soft"_w, "Firm"_w};
 
 // How one form words a reset type: a known type as its name followed by
 // `suffix`; any other as its code in decimal between two pieces.
 struct reset_wording {
-    std::string_view suffix;
-    std::string_view unknown_open;
-    std::string_view unknown_close;
+    wstring_view suffix;
+    wstring_view unknown_open;
+    wstring_view unknown_close;
 };
 
 struct reset_type {
@@ -89,7 +89,7 @@ struct reset_type {
 template <text_sink Out>
 Out& operator<<(Out& out, const reset_type& type)
 {
-    if (const std::string_view* name = coded_name(reset_type_names, type.code))
+    if (const wstring_view* name = coded_name(reset_type_names, type.code))
         return out << *name << type.wording.suffix;
     return out << type.wording.unknown_open << decimal(type.code) << type.wording.unknown_close;
 }
@@ -105,5 +105,5 @@ inline bool read_blind_mode(payload_cursor& in)
 template <text_sink Out>
 void write_blind_mode_element(Out& out, bool blind)
 {
-    out << "\t\t<blind-mode>" << true_false(blind) << "</blind-mode>\n";
+    out << "\t\t<blind-mode>"_w << true_false(blind) << "</blind-mode>\n"_w;
 }

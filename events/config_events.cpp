@@ -14,6 +14,7 @@ namespace {
 using render::colour;
 using namespace render::colours;
 using ui::event::text_output;
+using ui::event::verbatim_xml_output;
 using ui::event::xml_output;
 
 // Each event's fields are read in full before anything is written, so a short
@@ -31,7 +32,7 @@ outcome read_outcome(payload_cursor& in)
 }
 
 // In text, ": " and the error text after a failure (even an empty one).
-constexpr outcome_wording failure_tail{"", ": ", ""};
+constexpr outcome_wording failure_tail{""_w, ": "_w, ""_w};
 
 // Ends a sentence with its outcome and gives its colour: failures show in the
 // failure colour, whatever the event.
@@ -44,14 +45,14 @@ colour end_with_outcome(text_output& out, const outcome& result, colour success)
 // The `Result` element of the XML stream forms: "Ok", or the error text.
 void write_result_line(xml_output& out, const outcome& result)
 {
-    write_element_line(out, "Result", result.failed() ? result.error.view() : wstring_view(WSTR("Ok")));
+    write_element_line(out, "Result"_w, result.failed() ? result.error.view() : "Ok"_w);
 }
 
 // The upgrades' `Failure` element, only after a failure.
 void write_failure_line(xml_output& out, const outcome& result)
 {
     if (result.failed())
-        write_element_line(out, "Failure", result.error.view());
+        write_element_line(out, "Failure"_w, result.error.view());
 }
 
 // --- Unit property switches -------------------------------------------------
@@ -59,15 +60,15 @@ void write_failure_line(xml_output& out, const outcome& result)
 // The four switches of a unit's properties, in payload order, with the label
 // of the text form and the element of the XML form.
 struct property_switch {
-    std::string_view label;
-    std::string_view element;
+    wstring_view label;
+    wstring_view element;
 };
 
 constexpr std::array<property_switch, 4> unit_switches{{
-    {"Front Panel Lock Out", "FrontPanelLockout"},
-    {"Unlock Alarm Mask", "UnlockAlarmMask"},
-    {"Enable Heartbeat", "EnableHeartbeat"},
-    {"Auto Home State Timeout", "AutoHomeStateTimeout"},
+    {"Front Panel Lock Out"_w, "FrontPanelLockout"_w},
+    {"Unlock Alarm Mask"_w, "UnlockAlarmMask"_w},
+    {"Enable Heartbeat"_w, "EnableHeartbeat"_w},
+    {"Auto Home State Timeout"_w, "AutoHomeStateTimeout"_w},
 }};
 
 // Each switch is a u32 that counts only as zero or not zero.
@@ -92,12 +93,12 @@ struct upgrade {
     }
 
     // "<image>, <rate>", after the event's own lead-in.
-    void write_text(text_output& out) const { out << image.view() << ", " << rate; }
+    void write_text(text_output& out) const { out << image.view() << ", "_w << rate; }
 
     void write_xml(xml_output& out) const
     {
-        write_element_line(out, "Image", image.view());
-        write_element_line(out, "Rate", rate);
+        write_element_line(out, "Image"_w, image.view());
+        write_element_line(out, "Rate"_w, rate);
     }
 };
 
@@ -200,15 +201,15 @@ void corvane_unit_properties_saved_xml(payload_cursor& in, xml_output& out)
     for (std::size_t i = 0; i < unit_switches.size(); ++i)
         write_element_line(out, unit_switches[i].element, lowercase_true_false(on[i]));
     if (!result.empty())
-        write_element_line(out, "result", result.view());
+        write_element_line(out, "result"_w, result.view());
 }
 
 colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
 {
     const auto on = read_unit_switches(in);
-    out << "Unit Properties Saved, ";
+    out << "Unit Properties Saved, "_w;
     for (std::size_t i = 0; i < unit_switches.size(); ++i)
-        out << (i == 0 ? "" : ", ") << unit_switches[i].label << ": (" << lowercase_true_false(on[i]) << ")";
+        out << (i == 0 ? ""_w : ", "_w) << unit_switches[i].label << ": ("_w << lowercase_true_false(on[i]) << ")"_w;
     return inventory;
 }
 
@@ -217,20 +218,21 @@ colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
 void unit_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
     const unit_properties p = unit_properties::read(in);
-    write_element_line(out, "IpAddress", dotted_ipv4{p.address});
-    write_element_line(out, "FrontPanelLockout", lowercase_true_false(p.lockout));
-    write_element_line(out, "UnlockAlarmMask", lowercase_true_false(p.unlock_mask));
-    write_element_line(out, "EnableHeartbeat", lowercase_true_false(p.heartbeat));
-    write_element_line(out, "AutoHomeStateTimeout", decimal(p.home_state_timeout));
+    write_element_line(out, "IpAddress"_w, dotted_ipv4{p.address});
+    write_element_line(out, "FrontPanelLockout"_w, lowercase_true_false(p.lockout));
+    write_element_line(out, "UnlockAlarmMask"_w, lowercase_true_false(p.unlock_mask));
+    write_element_line(out, "EnableHeartbeat"_w, lowercase_true_false(p.heartbeat));
+    write_element_line(out, "AutoHomeStateTimeout"_w, decimal(p.home_state_timeout));
     write_result_line(out, p.result);
 }
 
 colour unit_properties_saved_text(payload_cursor& in, text_output& out)
 {
     const unit_properties p = unit_properties::read(in);
-    out << "Unit properties saved - IP:" << dotted_ipv4{p.address} << ", Front Panel Lock Out: " << on_off(p.lockout)
-        << ", Unlock Alarm Mask: " << on_off(p.unlock_mask) << ", Heartbeat: " << on_off(p.heartbeat)
-        << ", Auto Home-state Timeout: " << decimal(p.home_state_timeout) << "s";
+    // Deliberate: no blank after "IP:".
+    out << "Unit properties saved - IP:"_w << dotted_ipv4{p.address}
+        << ", Front Panel Lock Out: "_w << on_off(p.lockout) << ", Unlock Alarm Mask: "_w << on_off(p.unlock_mask) << ", Heartbeat: "_w << on_off(p.heartbeat)
+        << ", Auto Home-state Timeout: "_w << decimal(p.home_state_timeout) << "s"_w;
     return end_with_outcome(out, p.result, inventory);
 }
 
@@ -239,15 +241,16 @@ colour unit_properties_saved_text(payload_cursor& in, text_output& out)
 void gull_properties_saved_xml(payload_cursor& in, xml_output& out)
 {
     const gull_properties p = gull_properties::read(in);
-    write_element_line(out, "IpAddress", dotted_ipv4{p.address});
-    write_element_line(out, "Name", p.name.view());
+    write_element_line(out, "IpAddress"_w, dotted_ipv4{p.address});
+    write_element_line(out, "Name"_w, p.name.view());
     write_result_line(out, p.result);
 }
 
 colour gull_properties_saved_text(payload_cursor& in, text_output& out)
 {
     const gull_properties p = gull_properties::read(in);
-    out << "GULL properties saved - IP:" << dotted_ipv4{p.address} << ", Name: " << p.name.view();
+    // Deliberate: no blank after "IP:".
+    out << "GULL properties saved - IP:"_w << dotted_ipv4{p.address} << ", Name: "_w << p.name.view();
     return end_with_outcome(out, p.result, inventory);
 }
 
@@ -255,13 +258,13 @@ colour gull_properties_saved_text(payload_cursor& in, text_output& out)
 
 void register_network_id_xml(payload_cursor& in, xml_output& out)
 {
-    write_element_line(out, "network-id", decimal(in.read_u8()));
+    write_element_line(out, "network-id"_w, decimal(in.read_u8()));
 }
 
 colour register_network_id_text(payload_cursor& in, text_output& out)
 {
     const std::uint8_t network = in.read_u8();
-    out << "A network wide registration was issued for the network with the id of " << decimal(network) << ".";
+    out << "A network wide registration was issued for the network with the id of "_w << decimal(network) << "."_w;
     return command;
 }
 
@@ -269,15 +272,15 @@ colour register_network_id_text(payload_cursor& in, text_output& out)
 
 void paramfile_write_xml(payload_cursor& in, xml_output& out)
 {
-    write_element_line(out, "save", lowercase_true_false(in.read_u8() != 0));
+    write_element_line(out, "save"_w, lowercase_true_false(in.read_u8() != 0));
 }
 
 colour paramfile_write_text(payload_cursor& in, text_output& out)
 {
     const bool saved = in.read_u8() != 0;
-    out << "A param file was written to the unit.";
+    out << "A param file was written to the unit."_w;
     if (saved)
-        out << " The new configuration was saved to flash.";
+        out << " The new configuration was saved to flash."_w;
     return command;
 }
 
@@ -285,13 +288,14 @@ colour paramfile_write_text(payload_cursor& in, text_output& out)
 
 void paramfile_autosave_xml(payload_cursor& in, xml_output& out)
 {
-    write_element_line(out, "result", std::string_view(in.read_u8() != 0 ? "failed" : "succeeded"));
+    write_element_line(out, "result"_w, wstring_view(in.read_u8() != 0 ? "failed"_w : "succeeded"_w));
 }
 
 colour paramfile_autosave_text(payload_cursor& in, text_output& out)
 {
     const bool failed = in.read_u8() != 0;
-    out << "An automatic configuration backup " << (failed ? " failed.\n" : " succeeded.\n");
+    // Deliberate: a doubled blank after "backup" and a final line break.
+    out << "An automatic configuration backup "_w << (failed ? " failed.\n"_w : " succeeded.\n"_w);
     return failed ? failure : green;
 }
 
@@ -309,7 +313,7 @@ colour unit_upgrade_text(payload_cursor& in, text_output& out)
 {
     const upgrade u = upgrade::read(in);
     const outcome result = read_outcome(in);
-    out << "Unit Upgrade: ";
+    out << "Unit Upgrade: "_w;
     u.write_text(out);
     return end_with_outcome(out, result, command);
 }
@@ -320,7 +324,7 @@ void multiple_unit_upgrade_xml(payload_cursor& in, xml_output& out)
     const std::uint32_t units = in.read_u32();
     const outcome result = read_outcome(in);
     u.write_xml(out);
-    write_element_line(out, "Units", decimal(units));
+    write_element_line(out, "Units"_w, decimal(units));
     write_failure_line(out, result);
 }
 
@@ -329,9 +333,9 @@ colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
     const upgrade u = upgrade::read(in);
     const std::uint32_t units = in.read_u32();
     const outcome result = read_outcome(in);
-    out << "Multiple Unit Upgrade: ";
+    out << "Multiple Unit Upgrade: "_w;
     u.write_text(out);
-    out << ", Units: " << decimal(units);
+    out << ", Units: "_w << decimal(units);
     return end_with_outcome(out, result, command);
 }
 
@@ -340,17 +344,18 @@ colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
 void heartbeat_toggled_xml(payload_cursor& in, xml_output& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
-    write_element_line(out, "Enabled", lowercase_true_false(h.enabled));
-    write_element_line(out, "Timeout", decimal(h.timeout));
-    write_element_line(out, "Interval", decimal(h.interval));
+    write_element_line(out, "Enabled"_w, lowercase_true_false(h.enabled));
+    write_element_line(out, "Timeout"_w, decimal(h.timeout));
+    write_element_line(out, "Interval"_w, decimal(h.interval));
     write_result_line(out, h.result);
 }
 
 colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
-    out << "Unit Heartbeat Toggled - Enabled:" << lowercase_true_false(h.enabled)
-        << ", Timeout: " << decimal(h.timeout) << "ms, Interval: " << decimal(h.interval) << "ms";
+    // Deliberate: no blank after "Enabled:".
+    out << "Unit Heartbeat Toggled - Enabled:"_w << lowercase_true_false(h.enabled)
+        << ", Timeout: "_w << decimal(h.timeout) << "ms, Interval: "_w << decimal(h.interval) << "ms"_w;
     return end_with_outcome(out, h.result, command);
 }
 
@@ -359,25 +364,26 @@ colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 void home_state_timeout_changed_xml(payload_cursor& in, xml_output& out)
 {
     const home_state_change h = home_state_change::read(in);
-    write_element_line(out, "Interval", decimal(h.interval));
+    write_element_line(out, "Interval"_w, decimal(h.interval));
     write_result_line(out, h.result);
 }
 
 colour home_state_timeout_changed_text(payload_cursor& in, text_output& out)
 {
     const home_state_change h = home_state_change::read(in);
-    out << "Interval: " << decimal(h.interval) << "s";
+    out << "Interval: "_w << decimal(h.interval) << "s"_w;
     return end_with_outcome(out, h.result, command);
 }
 
 // --- Corvane Manager Properties Saved ---------------------------------------
 
-void manager_properties_saved_xml(payload_cursor& in, text_output& out)
+void manager_properties_saved_xml(payload_cursor& in, verbatim_xml_output& out)
 {
     const std::int32_t force_restart = in.read_i32();
     const payload_text result = in.read_wstring();
-    out << "<!-- Corvane Manager Properties Saved  -->\n"
-        << "\t\t<ForceRestart>" << decimal(force_restart) << "</ForceRestart>\n";
+    // Deliberate: the doubled blank before "-->".
+    out << "<!-- Corvane Manager Properties Saved  -->\n"_w
+        << "\t\t<ForceRestart>"_w << decimal(force_restart) << "</ForceRestart>\n"_w;
     write_result_element_if_any(out, result);
 }
 
@@ -385,57 +391,61 @@ colour manager_properties_saved_text(payload_cursor& in, text_output& out)
 {
     const bool restarted = in.read_i32() != 0;
     const payload_text result = in.read_wstring();
-    out << "Configuration properties saved";
+    out << "Configuration properties saved"_w;
     if (restarted)
-        out << " and communications restarted";
-    write_if_any(out, ": ", result);
+        out << " and communications restarted"_w;
+    write_if_any(out, ": "_w, result);
     return inventory;
 }
 
 // --- Corvane Unit Properties Saved Orrin 3.2 --------------------------------
 
-void unit_properties_saved_v32_xml(payload_cursor& in, text_output& out)
+void unit_properties_saved_v32_xml(payload_cursor& in, verbatim_xml_output& out)
 {
     const unit_properties_v32 p = unit_properties_v32::read(in);
-    out << "<!-- Unit Properties Saved  -->\n"
-        << "\t\t<IpAddress>" << dotted_ipv4{p.address} << "</IpAddress>\n"
-        << "\t\t<FrontPanelLockOut>" << decimal(p.lockout) << "</FrontPanelLockOut>\n"
-        << "\t\t<UnlockAlarmMask>" << decimal(p.unlock_mask) << "</UnlockAlarmMask>\n";
+    // Deliberate: the doubled blank before "-->".
+    out << "<!-- Unit Properties Saved  -->\n"_w
+        << "\t\t<IpAddress>"_w << dotted_ipv4{p.address} << "</IpAddress>\n"_w
+        << "\t\t<FrontPanelLockOut>"_w << decimal(p.lockout) << "</FrontPanelLockOut>\n"_w
+        << "\t\t<UnlockAlarmMask>"_w << decimal(p.unlock_mask) << "</UnlockAlarmMask>\n"_w;
     write_result_element_if_any(out, p.result);
 }
 
 colour unit_properties_saved_v32_text(payload_cursor& in, text_output& out)
 {
     const unit_properties_v32 p = unit_properties_v32::read(in);
-    out << "Unit properties saved - IP:" << dotted_ipv4{p.address} << ", "
-        << "Front Panel Lock Out: " << on_off(p.lockout != 0) << ", "
-        << "Unlock Alarm Mask: " << on_off(p.unlock_mask != 0);
-    write_if_any(out, ": ", p.result);
+    // Deliberate: no blank after "IP:".
+    out << "Unit properties saved - IP:"_w << dotted_ipv4{p.address} << ", "_w
+        << "Front Panel Lock Out: "_w << on_off(p.lockout != 0) << ", "_w
+        << "Unlock Alarm Mask: "_w << on_off(p.unlock_mask != 0);
+    write_if_any(out, ": "_w, p.result);
     return inventory;
 }
 
 // --- Corvane Device Properties Saved ----------------------------------------
 
-void device_properties_saved_xml(payload_cursor& in, text_output& out)
+void device_properties_saved_xml(payload_cursor& in, verbatim_xml_output& out)
 {
     const device_properties p = device_properties::read(in);
-    out << "<!-- Device Configuration Saved -->\n"
-        << "\t\t<DeviceName>" << p.name.view() << "\t</DeviceName>"
-        << "\t\t<Carrier>";
+    // Deliberate: a tab before </DeviceName> and no line break after it.
+    out << "<!-- Device Configuration Saved -->\n"_w
+        << "\t\t<DeviceName>"_w << p.name.view() << "\t</DeviceName>"_w
+        << "\t\t<Carrier>"_w;
     if (const OptionEntry* row = p.carrier_row())
-        out << row->wide << "</Carrier>\n";
+        out << option_text(*row) << "</Carrier>\n"_w;
     else
-        out << "unknown" << decimal(p.carrier) << ")</Carrier>";
+        // Deliberate: no "(" before the value and no line break after </Carrier>.
+        out << "unknown"_w << decimal(p.carrier) << ")</Carrier>"_w;
     write_result_element_if_any(out, p.result);
 }
 
 colour device_properties_saved_text(payload_cursor& in, text_output& out)
 {
     const device_properties p = device_properties::read(in);
-    out << "Device properties saved. Name: " << p.name.view() << ", Carrier: ";
+    out << "Device properties saved. Name: "_w << p.name.view() << ", Carrier: "_w;
     if (const OptionEntry* row = p.carrier_row())
-        out << row->wide;
-    write_if_any(out, ": ", p.result);
+        out << option_text(*row);
+    write_if_any(out, ": "_w, p.result);
     return inventory;
 }
 
@@ -447,13 +457,14 @@ colour device_properties_saved_text(payload_cursor& in, text_output& out)
 // a text directly after the two words. A payload written for one form is
 // misread by the other.
 
-void modem_flag_xml(payload_cursor& in, text_output& out)
+void modem_flag_xml(payload_cursor& in, verbatim_xml_output& out)
 {
     in.read_u32();
     in.read_u32();
     const payload_text result = in.read_wstring();
-    out << "<!-- Modem Flag Toggled  -->\n";
-    write_result_element_if_any(out, result, "\t\t");
+    // Deliberate: the doubled blank before "-->", and the result line is indented here alone.
+    out << "<!-- Modem Flag Toggled  -->\n"_w;
+    write_result_element_if_any(out, result, "\t\t"_w);
 }
 
 colour modem_flag_text(payload_cursor& in, text_output& out)
@@ -468,6 +479,6 @@ colour modem_flag_text(payload_cursor& in, text_output& out)
 
 colour demodulator_failed_text(payload_cursor&, text_output& out)
 {
-    out << "Device marked as unavailable due to switching error.";
+    out << "Device marked as unavailable due to switching error."_w;
     return failure;
 }

@@ -20,7 +20,7 @@ struct designation {
 template <text_sink Out>
 Out& operator<<(Out& out, designation unit)
 {
-    return out << device_type_name(unit.type) << "-" << dotted_ipv4{unit.address};
+    return out << device_type_name(unit.type) << "-"_w << dotted_ipv4{unit.address};
 }
 
 // A designation as payloads carry it: the type byte, then the address.
@@ -31,15 +31,15 @@ inline designation read_designation(payload_cursor& in)
 }
 
 // How the XML forms spell a flag.
-constexpr std::string_view true_false(bool flag) noexcept
+constexpr wstring_view true_false(bool flag) noexcept
 {
-    return flag ? "True" : "False";
+    return flag ? "True"_w : "False"_w;
 }
 
 // `separator` and `text`, only when there is text: the optional tail of a
 // sentence such as "...sent to network: <result>".
 template <text_sink Out>
-void write_if_any(Out& out, std::string_view separator, wstring_view text)
+void write_if_any(Out& out, wstring_view separator, wstring_view text)
 {
     if (!text.empty())
         out << separator << text;
@@ -48,25 +48,25 @@ void write_if_any(Out& out, std::string_view separator, wstring_view text)
 // The quoted result line of the plain-text XML forms:
 // <result>"text"</result> and a line break, with the given indentation.
 template <text_sink Out>
-void write_result_element(Out& out, wstring_view text, std::string_view indent = "")
+void write_result_element(Out& out, wstring_view text, wstring_view indent = ""_w)
 {
-    out << indent << "<result>\"" << text << "\"</result>\n";
+    out << indent << "<result>\""_w << text << "\"</result>\n"_w;
 }
 
 // How the configuration texts spell a flag.
-constexpr std::string_view lowercase_true_false(bool flag) noexcept
+constexpr wstring_view lowercase_true_false(bool flag) noexcept
 {
-    return flag ? "true" : "false";
+    return flag ? "true"_w : "false"_w;
 }
 
-constexpr std::string_view on_off(bool flag) noexcept
+constexpr wstring_view on_off(bool flag) noexcept
 {
-    return flag ? "On" : "Off";
+    return flag ? "On"_w : "Off"_w;
 }
 
 // The result line only when there is a result text to show.
 template <text_sink Out>
-void write_result_element_if_any(Out& out, wstring_view text, std::string_view indent = "")
+void write_result_element_if_any(Out& out, wstring_view text, wstring_view indent = ""_w)
 {
     if (!text.empty())
         write_result_element(out, text, indent);

@@ -11,15 +11,15 @@ using render::colours::inventory;
 template <text_sink Out>
 void write_bracketed(Out& out, designation unit)
 {
-    out << "[" << unit << "] ";
+    out << "["_w << unit << "] "_w;
 }
 
 // --- Units joining or leaving the network (5-byte payloads) -----------------
 
-render::colour write_membership_text(payload_cursor& in, ui::event::text_output& out, std::string_view change)
+render::colour write_membership_text(payload_cursor& in, ui::event::text_output& out, wstring_view change)
 {
     const designation unit = read_designation(in);
-    out << "The node '" << unit << "' was " << change << " the network.";
+    out << "The node '"_w << unit << "' was "_w << change << " the network."_w;
     return inventory;
 }
 
@@ -39,34 +39,35 @@ unit_move read_unit_move(payload_cursor& in)
 // The two XML forms differ in their comment and in how far their lines are
 // indented.
 struct unit_move_form {
-    std::string_view comment;
-    std::string_view indent;
+    wstring_view comment;
+    wstring_view indent;
 };
 
-constexpr unit_move_form unit_removed_form{"<!-- Unit Removed -->\n", "\t\t\t"};
-constexpr unit_move_form unit_inserted_form{"<!-- Unit Inserted -->\n", "\t"};
+// Deliberate: three tabs when removed, one when inserted.
+constexpr unit_move_form unit_removed_form{"<!-- Unit Removed -->\n"_w, "\t\t\t"_w};
+constexpr unit_move_form unit_inserted_form{"<!-- Unit Inserted -->\n"_w, "\t"_w};
 
-void write_unit_move_xml(payload_cursor& in, ui::event::text_output& out, const unit_move_form& form)
+void write_unit_move_xml(payload_cursor& in, ui::event::verbatim_xml_output& out, const unit_move_form& form)
 {
     out << form.comment;
     const unit_move move = read_unit_move(in);
-    out << form.indent << "<node>" << move.unit << "</node>\n";
-    out << form.indent << "<transponder>" << decimal(move.network) << "</transponder>\n";
+    out << form.indent << "<node>"_w << move.unit << "</node>\n"_w;
+    out << form.indent << "<transponder>"_w << decimal(move.network) << "</transponder>\n"_w;
 }
 
 } // namespace
 
 void unit_destroy_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    write_element_line(out, "node", read_designation(in));
-    write_element_line(out, "result", in.read_wstring().view());
+    write_element_line(out, "node"_w, read_designation(in));
+    write_element_line(out, "result"_w, in.read_wstring().view());
 }
 
 render::colour unit_destroy_text(payload_cursor& in, ui::event::text_output& out)
 {
     write_bracketed(out, read_designation(in));
-    out << "removal requested from Orrin console";
-    write_if_any(out, ": ", in.read_wstring());
+    out << "removal requested from Orrin console"_w;
+    write_if_any(out, ": "_w, in.read_wstring());
     return inventory;
 }
 
@@ -78,15 +79,15 @@ void unit_membership_xml(payload_cursor& in, ui::event::xml_output& out)
 
 render::colour unit_inserted_text(payload_cursor& in, ui::event::text_output& out)
 {
-    return write_membership_text(in, out, "inserted into");
+    return write_membership_text(in, out, "inserted into"_w);
 }
 
 render::colour unit_removed_text(payload_cursor& in, ui::event::text_output& out)
 {
-    return write_membership_text(in, out, "removed from");
+    return write_membership_text(in, out, "removed from"_w);
 }
 
-void unit_removed_v32_xml(payload_cursor& in, ui::event::text_output& out)
+void unit_removed_v32_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
     write_unit_move_xml(in, out, unit_removed_form);
 }
@@ -95,28 +96,30 @@ render::colour unit_removed_v32_text(payload_cursor& in, ui::event::text_output&
 {
     const unit_move move = read_unit_move(in);
     write_bracketed(out, move.unit);
-    out << "removed from Network " << decimal(move.network);
+    out << "removed from Network "_w << decimal(move.network);
     return inventory;
 }
 
-void unit_declared_xml(payload_cursor& in, ui::event::text_output& out)
+void unit_declared_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
-    out << "<!-- Declare Modem  -->\n";
+    // Deliberate: the doubled blank before "-->".
+    out << "<!-- Declare Modem  -->\n"_w;
     const designation unit = read_designation(in);
-    out << "\t<type>" << device_type_name(unit.type) << "</type>\n";
-    out << "\t<address>" << dotted_ipv4{unit.address} << "</address>\n";
+    out << "\t<type>"_w << device_type_name(unit.type) << "</type>\n"_w;
+    out << "\t<address>"_w << dotted_ipv4{unit.address} << "</address>\n"_w;
     write_result_element_if_any(out, in.read_wstring());
 }
 
 render::colour unit_declared_text(payload_cursor& in, ui::event::text_output& out)
 {
     const designation unit = read_designation(in);
-    out << "New unit [" << unit << "] declared from Orrin console";
-    write_if_any(out, ":", in.read_wstring());
+    out << "New unit ["_w << unit << "] declared from Orrin console"_w;
+    // Deliberate: no blank after the colon.
+    write_if_any(out, ":"_w, in.read_wstring());
     return inventory;
 }
 
-void unit_inserted_v32_xml(payload_cursor& in, ui::event::text_output& out)
+void unit_inserted_v32_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
     write_unit_move_xml(in, out, unit_inserted_form);
 }
@@ -125,42 +128,47 @@ render::colour unit_inserted_v32_text(payload_cursor& in, ui::event::text_output
 {
     const unit_move move = read_unit_move(in);
     write_bracketed(out, move.unit);
-    out << "created in ";
+    out << "created in "_w;
     // Network 0 is the pool of units that no network has registered yet.
     if (move.network == 0)
-        out << "Unregistered Modems";
+        out << "Unregistered Modems"_w;
     else
-        out << "Network " << decimal(move.network);
+        out << "Network "_w << decimal(move.network);
     return inventory;
 }
 
 // --- Network-wide notices: a sentence and an optional result text -----------
 
 struct network_notice {
-    std::string_view sentence;
+    wstring_view sentence;
     render::colour colour;
-    std::string_view comment;
+    wstring_view comment;
     bool names_network;   // the payload starts with a network ID
-    std::string_view network_indent;
+    wstring_view network_indent;
 };
 
+// Deliberate, in every row: the doubled blank before "-->"; "from" missing in
+// the removal comment; one tab before <Network ID> when added, two when removed.
 constexpr network_notice network_id_inserted_notice{
-    "Network ID added to Orrin", inventory, "<!-- New Network ID added to Orrin registry  -->\n", true, "\t"};
+    "Network ID added to Orrin"_w, inventory, "<!-- New Network ID added to Orrin registry  -->\n"_w, true,
+    "\t"_w};
 constexpr network_notice network_id_removed_notice{
-    "Network ID removed from Orrin", inventory, "<!-- New Network ID removed Orrin registry  -->\n", true, "\t\t"};
+    "Network ID removed from Orrin"_w, inventory, "<!-- New Network ID removed Orrin registry  -->\n"_w, true,
+    "\t\t"_w};
 constexpr network_notice global_reinitialize_notice{
-    "Global Re-Initialize command sent to network", render::colours::command, "<!-- Global Re-initialize  -->\n",
-    false, ""};
+    "Global Re-Initialize command sent to network"_w, render::colours::command, "<!-- Global Re-initialize  -->\n"_w,
+    false, ""_w};
 constexpr network_notice scan_network_notice{
-    "Scan Network command sent to network", render::colours::command, "<!-- Scan Network  -->\n", false, ""};
+    "Scan Network command sent to network"_w, render::colours::command, "<!-- Scan Network  -->\n"_w, false, ""_w};
 
 template <const network_notice& Notice>
-void network_notice_renderers<Notice>::xml(payload_cursor& in, ui::event::text_output& out)
+void network_notice_renderers<Notice>::xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
     out << Notice.comment;
     if (Notice.names_network) {
         const std::uint8_t network = in.read_u8();
-        out << Notice.network_indent << "<Network ID>" << decimal(network) << "</Network ID>\n";
+        // Deliberate: the element name holds a blank.
+        out << Notice.network_indent << "<Network ID>"_w << decimal(network) << "</Network ID>\n"_w;
     }
     write_result_element_if_any(out, in.read_wstring());
 }
@@ -172,7 +180,7 @@ render::colour network_notice_renderers<Notice>::text(payload_cursor& in, ui::ev
     if (Notice.names_network)
         in.read_u8();
     out << Notice.sentence;
-    write_if_any(out, ": ", in.read_wstring());
+    write_if_any(out, ": "_w, in.read_wstring());
     return Notice.colour;
 }
 

@@ -8,11 +8,11 @@ render::colour unit_destroy_text(payload_cursor& in, ui::event::text_output& out
 void unit_membership_xml(payload_cursor& in, ui::event::xml_output& out);
 render::colour unit_inserted_text(payload_cursor& in, ui::event::text_output& out);
 render::colour unit_removed_text(payload_cursor& in, ui::event::text_output& out);
-void unit_removed_v32_xml(payload_cursor& in, ui::event::text_output& out);
+void unit_removed_v32_xml(payload_cursor& in, ui::event::verbatim_xml_output& out);
 render::colour unit_removed_v32_text(payload_cursor& in, ui::event::text_output& out);
-void unit_declared_xml(payload_cursor& in, ui::event::text_output& out);
+void unit_declared_xml(payload_cursor& in, ui::event::verbatim_xml_output& out);
 render::colour unit_declared_text(payload_cursor& in, ui::event::text_output& out);
-void unit_inserted_v32_xml(payload_cursor& in, ui::event::text_output& out);
+void unit_inserted_v32_xml(payload_cursor& in, ui::event::verbatim_xml_output& out);
 render::colour unit_inserted_v32_text(payload_cursor& in, ui::event::text_output& out);
 
 // The network-wide notices (a network ID added or removed, a global
@@ -26,6 +26,6 @@ extern const network_notice scan_network_notice;
 
 template <const network_notice& Notice>
 struct network_notice_renderers {
-    static void xml(payload_cursor& in, ui::event::text_output& out);
+    static void xml(payload_cursor& in, ui::event::verbatim_xml_output& out);
     static render::colour text(payload_cursor& in, ui::event::text_output& out);
 };

@@ -18,14 +18,14 @@ template <text_sink Out>
 Out& operator<<(Out& out, unit_status status)
 {
     if (status.value == unit_disabled)
-        return out << "Disabled";
+        return out << "Disabled"_w;
     if (status.value < 0)
-        return out << "Disconnected";
+        return out << "Disconnected"_w;
     if (status.value == 0)
-        return out << "OK";
+        return out << "OK"_w;
     if (status.value == 1)
-        return out << "Alarmed";
-    return out << decimal(status.value) << " Alarms";
+        return out << "Alarmed"_w;
+    return out << decimal(status.value) << " Alarms"_w;
 }
 
 // Grey while the unit is out of reach, green when it is clear, red while

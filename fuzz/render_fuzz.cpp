@@ -9,7 +9,8 @@
 // left with every DISP_E_EXCEPTION and never with S_OK or E_UNEXPECTED; a
 // success holds a
 // terminated text identical to the rendering into an ample buffer; a failure
-// leaves a terminated prefix of that rendering.
+// leaves a terminated prefix of that rendering; the counting form measures
+// exactly what the ample rendering wrote, or fails as it did.
 #include <algorithm>
 #include <cstdint>
 #include <memory>
@@ -99,6 +100,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const rendering full = render_into(row, text, payload.get(), bytes, ample);
     const std::size_t full_length = terminated_length(full.buffer, ample);
+    std::size_t needed = 0;
+    const render::room_function room = text ? row.textRoom : row.xmlRoom;
+    const HRESULT measured = room(static_cast<std::uint32_t>(bytes), payload.get(), &needed);
+    platform::take_error_description();
+    if (full.result == S_OK) {
+        // A payload text may hold NULs of its own: the measure counts every
+        // unit written, and the terminator stands right after the last.
+        FUZZ_REQUIRE(measured == S_OK && needed > full_length && needed <= ample);
+        FUZZ_REQUIRE(full.buffer[needed - 1] == 0);
+    }
+    else if (measured == S_OK)
+        FUZZ_REQUIRE(needed > ample);   // only want of room stopped the ample rendering
+    else
+        FUZZ_REQUIRE(measured == full.result);
     if (capacity == 0) {
         FUZZ_REQUIRE(r.result != S_OK);
         return 0;

@@ -13,7 +13,7 @@ using output = io::text::output_stream<wchar>;
 void write_mac(output& out, const KorName& name)
 {
     const auto& m = name.mac;
-    out << "mac-" << hex_byte{m[5]} << hex_byte{m[4]} << hex_byte{m[3]} << "-" << hex_byte{m[2]}
+    out << "mac-"_w << hex_byte{m[5]} << hex_byte{m[4]} << hex_byte{m[3]} << "-"_w << hex_byte{m[2]}
         << hex_byte{m[1]} << hex_byte{m[0]};
 }
 
@@ -21,18 +21,18 @@ void write_mac(output& out, const KorName& name)
 // name was parsed in.
 void write_device(output& out, const KorName& name)
 {
-    out << device_type_name(static_cast<std::uint8_t>(name.deviceType)) << "-" << dotted_ipv4{name.address};
+    out << device_type_name(static_cast<std::uint8_t>(name.deviceType)) << "-"_w << dotted_ipv4{name.address};
 }
 
 void write_device_ex(output& out, const KorName& name)
 {
     write_device(out, name);
-    out << "," << decimal(name.idValue) << "," << decimal(name.subIndex);
+    out << ","_w << decimal(name.idValue) << ","_w << decimal(name.subIndex);
 }
 
 void write_transponder(output& out, const KorName& name)
 {
-    out << "transponder-" << decimal(name.transponder);
+    out << "transponder-"_w << decimal(name.transponder);
 }
 
 // Indexed by kind.
@@ -54,7 +54,7 @@ HRESULT print_kor_name(const KorName& name, wchar* buffer, std::size_t capacity)
         return E_UNEXPECTED;
     return guarded([&] {
         output out(buffer, capacity);
-        out << "kor:";
+        out << "kor:"_w;
         writers[name.kind](out, name);
         return S_OK;
     });

@@ -60,7 +60,7 @@ TEST(ChangeItem, TextItemsRunOnOneLine)
         bool first = r.first;
         const std::string text = written([&](auto& out) {
             for (const field& f : r.fields)
-                write_change_text(first, out, f.name, f.has_old, f.old_value, f.has_new, f.new_value, modulation);
+                write_change_text(first, out, wide(f.name), f.has_old, f.old_value, f.has_new, f.new_value, modulation);
         });
         EXPECT_EQ(text, r.text);
         EXPECT_EQ(first, r.first_after) << r.text;
@@ -73,7 +73,7 @@ TEST(ChangeItem, XmlItemsAreParameterElements)
         bool first = r.first;
         const std::string xml = written<ui::event::xml_output>([&](auto& out) {
             for (const field& f : r.fields)
-                write_change_xml(first, out, f.name, f.has_old, f.old_value, f.has_new, f.new_value, modulation);
+                write_change_xml(first, out, wide(f.name), f.has_old, f.old_value, f.has_new, f.new_value, modulation);
         });
         EXPECT_EQ(xml, r.xml);
         EXPECT_EQ(first, r.first_after) << r.xml;
@@ -84,9 +84,9 @@ TEST(ChangeItem, XmlItemClosesAPendingStartTagAndTakesTheIndentation)
 {
     bool first = true;
     const std::string xml = written<ui::event::xml_output>([&](ui::event::xml_output& out) {
-        out.indent = 3;
-        out.open_element("changes");
-        write_change_xml(first, out, "RxFrequency", true, std::uint32_t(70000000), true, std::uint32_t(999999),
+        out.indent_by(3);
+        out.open_element("changes"_w);
+        write_change_xml(first, out, "RxFrequency"_w, true, std::uint32_t(70000000), true, std::uint32_t(999999),
                          formats::scaled{scales::frequency});
     });
     EXPECT_EQ(xml, "   <changes>"

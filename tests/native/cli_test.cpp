@@ -60,6 +60,7 @@ TEST(CommandLine, ArgumentsMessagesAndExitCodes)
         {"render 22 0102", 1, "E_UNEXPECTED (0x8000FFFF)"},
         {"render 24 01000000 01000000 00000000 --text --capacity 20 --color=never", 1,
          "the buffer holds: \"Soft reset command \"\n  the whole text needs 45 units"},
+        {"render 24 01000000 01000000 00000000 --xml --capacity 20 --json", 1, "\"needed\": 92"},
         {"render 24 00 --capacity -5", 2, "--capacity"},
         {"render 24 00 --capacity 0", 2, "--capacity"},
         {"render 13 '00 34'", 1, "E_NOTIMPL (0x80004001): the parameter records of this unit family are not supported"},

@@ -14,7 +14,7 @@ constexpr std::int64_t limit = 14411518807585587;
 
 std::string text_of(decimal_value value)
 {
-    return std::string(value.digits().view());
+    return utf8(value.digits().view());
 }
 
 // The wide text of the "decimal overflow" error that `f` raises, or "" when

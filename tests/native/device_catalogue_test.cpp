@@ -11,7 +11,7 @@
 
 namespace {
 
-wstring text(const wchar* p) { return wstring(p); }
+wstring text(wstring_view v) { return wstring(v); }
 
 const wchar* const invalid = WSTR("(invalid)");
 

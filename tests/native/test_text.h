@@ -19,6 +19,12 @@ inline std::string utf8(const wchar* text)
     return utf8(wstring_view(text));
 }
 
+// ASCII test data as UTF-16.
+inline wstring wide(std::string_view ascii)
+{
+    return wstring(ascii.begin(), ascii.end());
+}
+
 // What `write` puts into a fresh stream of the given kind, as UTF-8.
 template <class Stream = ui::event::text_output, class Write>
 std::string written(Write&& write)

@@ -40,7 +40,7 @@ TEST(Platform, NarrowTextIsWidenedWithTheAnsiCodePage)
 {
     std::array<wchar_t, 8> buffer{};
     ui::event::text_output out(buffer.data(), buffer.size());
-    out << "a\xE9";
+    out << ansi_text("a\xE9");
     wchar_t expected[2];
     MultiByteToWideChar(CP_ACP, 0, "a\xE9", 2, expected, 2);
     EXPECT_EQ(buffer[0], L'a');

@@ -31,11 +31,13 @@ form_result render_form(const event_type_row& row, bool text, std::span<const st
     r.error = platform::take_error_description();
     for (std::size_t i = 0; i < capacity && buffer[i]; ++i)
         r.output += static_cast<char16_t>(buffer[i]);
-    if (r.result == DISP_E_EXCEPTION && r.error == "an overflow occured" && capacity < ample_capacity) {
-        const form_result whole = render_form(row, text, payload);
-        if (whole.result == S_OK)
-            r.needed = whole.output.size() + 1;
-    }
+    // The room the whole output needs, measured by the same renderer body
+    // writing nothing; a payload it refuses has no such measure.
+    const render::room_function room = text ? row.textRoom : row.xmlRoom;
+    std::size_t needed = 0;
+    if (room(bytes, payload.data(), &needed) == S_OK)
+        r.needed = needed;
+    platform::take_error_description();
     return r;
 }
 
@@ -70,17 +72,18 @@ void print(const form_result& r, bool colour_text)
         if (r.text) {
             char colour[16];
             std::snprintf(colour, sizeof colour, "0x%06X", static_cast<unsigned>(r.colour));
-            std::printf("%-5s S_OK, colour %s (COLORREF %s)\n", form, rgb(r.colour).c_str(), colour);
+            std::printf("%-5s S_OK, needs %zu units, colour %s (COLORREF %s)\n", form, r.needed, rgb(r.colour).c_str(),
+                        colour);
             std::printf("  %s\n", coloured(utf8_of(r.output), r.colour, colour_text).c_str());
         } else {
-            std::printf("%-5s S_OK\n%s\n", form, utf8_of(r.output).c_str());
+            std::printf("%-5s S_OK, needs %zu units\n%s\n", form, r.needed, utf8_of(r.output).c_str());
         }
         return;
     }
     std::printf("%-5s %s%s%s\n", form, results::describe(r.result).c_str(), r.error.empty() ? "" : ": ",
                 r.error.c_str());
     std::printf("  the buffer holds: \"%s\"\n", utf8_of(r.output).c_str());
-    if (r.needed)
+    if (r.needed > r.output.size() + 1)
         std::printf("  the whole %s needs %zu units with its terminator\n", form, r.needed);
 }
 

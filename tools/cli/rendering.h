@@ -18,7 +18,7 @@ struct form_result {
     std::u16string output;      // what the buffer holds afterwards
     std::uint32_t colour = 0;   // text form, on success
     std::string error;          // the error object's description
-    std::size_t needed = 0;     // on overflow: units the output needs, NUL included (0: unknown)
+    std::size_t needed = 0;     // units the whole output needs, NUL included (0: not measurable)
 };
 
 inline constexpr std::size_t ample_capacity = 1 << 16;
