@@ -26,7 +26,9 @@ using wstring_view = std::basic_string_view<wchar>;
 // The module's own literals, made UTF-16 when the module is compiled:
 // "Alarm"_w is a wstring_view of static UTF-16 units. Only ASCII is taken, so
 // that no literal depends on the ANSI code page of the machine it runs on; a
-// literal with any other byte does not compile.
+// literal with any other byte does not compile. The units are made, and
+// checked, when the literal's template argument is formed, which is always at
+// compile time; the operator itself only hands out a view of them.
 namespace wide_literal {
 
 template <std::size_t N>
@@ -46,7 +48,7 @@ struct ascii {
 } // namespace wide_literal
 
 template <wide_literal::ascii Text>
-consteval wstring_view operator""_w()
+constexpr wstring_view operator""_w()
 {
     return {Text.units, std::size(Text.units) - 1};
 }

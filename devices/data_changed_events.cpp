@@ -63,7 +63,7 @@ constexpr change_set heron_device{1, heron_device_sections};
 
 static_assert(std::size(falcon_sections) <= 8 && std::size(heron_unit_sections) <= 8 &&
                   std::size(heron_device_sections) <= 8 && osprey_v2_sections <= 8,
-              "a one-byte mask names eight sections at most"_w);
+              "a one-byte mask names eight sections at most");
 static_assert(std::size(osprey_sections) <= 16);
 
 } // namespace

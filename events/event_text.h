@@ -48,7 +48,7 @@ void write_if_any(Out& out, wstring_view separator, wstring_view text)
 // The quoted result line of the plain-text XML forms:
 // <result>"text"</result> and a line break, with the given indentation.
 template <text_sink Out>
-void write_result_element(Out& out, wstring_view text, wstring_view indent = ""_w)
+void write_result_element(Out& out, wstring_view text, wstring_view indent = {})
 {
     out << indent << "<result>\""_w << text << "\"</result>\n"_w;
 }
@@ -66,7 +66,7 @@ constexpr wstring_view on_off(bool flag) noexcept
 
 // The result line only when there is a result text to show.
 template <text_sink Out>
-void write_result_element_if_any(Out& out, wstring_view text, wstring_view indent = ""_w)
+void write_result_element_if_any(Out& out, wstring_view text, wstring_view indent = {})
 {
     if (!text.empty())
         write_result_element(out, text, indent);
