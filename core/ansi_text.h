@@ -11,6 +11,4 @@ struct ansi_text {
     constexpr ansi_text() noexcept = default;
     explicit constexpr ansi_text(std::string_view s) noexcept : bytes(s) {}
     explicit constexpr ansi_text(const char* s) noexcept : bytes(s) {}
-
-    constexpr bool empty() const noexcept { return bytes.empty(); }
 };

@@ -16,7 +16,6 @@
 // that hold this buffer; nothing here is virtual.
 #pragma once
 
-#include <concepts>
 #include <cstddef>
 #include <string>
 #include <string_view>

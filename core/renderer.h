@@ -78,6 +78,24 @@ template <class Out>
 inline constexpr bool is_xml_dialect =
     std::is_same_v<Out, ui::event::verbatim_xml_output> || std::is_same_v<Out, ui::event::xml_output>;
 
+// What every entry point does around its body: refuses missing arguments
+// and a payload that breaks the size rule, then runs `write` on a cursor over
+// the payload behind the exception boundary.
+template <class Size, class Write>
+HRESULT checked_run(bool arguments_present, std::uint32_t payloadBytes, const std::uint8_t* payload,
+                    Write&& write) noexcept
+{
+    if (!arguments_present || (!payload && payloadBytes != 0))
+        return E_POINTER;
+    if (!Size::accepts({payload, payloadBytes}))
+        return E_UNEXPECTED;
+    return guarded([&] {
+        payload_cursor in(payload, payloadBytes);
+        write(in);
+        return S_OK;
+    });
+}
+
 } // namespace detail
 
 // An XML renderer whose body writes `Dialect`: ui::event::verbatim_xml_output
@@ -89,16 +107,10 @@ HRESULT KORPS_STDCALL xml_renderer(void*, std::uint32_t payloadBytes, const std:
 {
     static_assert(detail::is_xml_dialect<Dialect>, "an XML renderer writes one of the two XML dialects");
     static_assert(std::is_same_v<detail::output_of<Body>, Dialect>, "the body writes another dialect");
-    if (!buffer || (!payload && payloadBytes != 0))
-        return E_POINTER;
-    if (!Size::accepts({payload, payloadBytes}))
-        return E_UNEXPECTED;
-    return guarded([&] {
+    return detail::checked_run<Size>(buffer != nullptr, payloadBytes, payload, [&](payload_cursor& in) {
         Dialect out(buffer, capacity);
         detail::prepare(out);
-        payload_cursor in(payload, payloadBytes);
         Body(in, out);
-        return S_OK;
     });
 }
 
@@ -107,15 +119,9 @@ HRESULT KORPS_STDCALL text_renderer(void*, std::uint32_t payloadBytes, const std
                                     std::uint32_t capacity, std::uint32_t* colour) noexcept
 {
     static_assert(std::is_same_v<detail::output_of<Body>, ui::event::text_output>, "a text body writes text");
-    if (!buffer || !colour || (!payload && payloadBytes != 0))
-        return E_POINTER;
-    if (!Size::accepts({payload, payloadBytes}))
-        return E_UNEXPECTED;
-    return guarded([&] {
+    return detail::checked_run<Size>(buffer && colour, payloadBytes, payload, [&](payload_cursor& in) {
         ui::event::text_output out(buffer, capacity);
-        payload_cursor in(payload, payloadBytes);
         *colour = Body(in, out);
-        return S_OK;
     });
 }
 
@@ -129,17 +135,11 @@ using room_function = HRESULT (*)(std::uint32_t payloadBytes, const std::uint8_t
 template <auto Body, class Size = any_size>
 HRESULT room_needed(std::uint32_t payloadBytes, const std::uint8_t* payload, std::size_t* units) noexcept
 {
-    if (!units || (!payload && payloadBytes != 0))
-        return E_POINTER;
-    if (!Size::accepts({payload, payloadBytes}))
-        return E_UNEXPECTED;
-    return guarded([&] {
+    return detail::checked_run<Size>(units != nullptr, payloadBytes, payload, [&](payload_cursor& in) {
         detail::output_of<Body> out(io::text::counting);
         detail::prepare(out);
-        payload_cursor in(payload, payloadBytes);
         Body(in, out);
         *units = out.size() + 1;
-        return S_OK;
     });
 }
 

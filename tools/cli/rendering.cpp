@@ -33,10 +33,9 @@ form_result render_form(const event_type_row& row, bool text, std::span<const st
         r.output += static_cast<char16_t>(buffer[i]);
     // The room the whole output needs, measured by the same renderer body
     // writing nothing; a payload it refuses has no such measure.
+    // (It sets the count only on success, so a refusal leaves 0.)
     const render::room_function room = text ? row.textRoom : row.xmlRoom;
-    std::size_t needed = 0;
-    if (room(bytes, payload.data(), &needed) == S_OK)
-        r.needed = needed;
+    room(bytes, payload.data(), &r.needed);
     platform::take_error_description();
     return r;
 }
