@@ -13,7 +13,7 @@
 #include <span>
 #include <stdexcept>
 
-#include "devices/option_entry.h"
+#include "core/option_entry.h"
 
 namespace demod_options {
 

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <iterator>
 
-#include "devices/option_entry.h"
+#include "core/option_entry.h"
 
 namespace device_types {
 

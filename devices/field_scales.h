@@ -6,7 +6,7 @@
 
 #include <span>
 
-#include "devices/option_entry.h"
+#include "devices/unit_entry.h"
 #include "devices/unit_tables.h"
 
 struct field_scale {

@@ -14,7 +14,7 @@
 
 #include "core/event_output.h"
 #include "core/payload_cursor.h"
-#include "devices/option_entry.h"
+#include "core/option_entry.h"
 
 namespace routes {
 

@@ -5,7 +5,7 @@
 #include <span>
 
 #include "devices/decimal_value.h"
-#include "devices/option_entry.h"
+#include "devices/unit_entry.h"
 
 // The row a value is shown in: the last row, walking up from the first, whose
 // multiplier the value's magnitude reaches. Zero and anything below the

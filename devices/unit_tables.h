@@ -6,7 +6,7 @@
 // a symbol rate field.
 #pragma once
 
-#include "devices/option_entry.h"
+#include "devices/unit_entry.h"
 
 namespace units {
 

@@ -9,7 +9,7 @@
 #include "core/text_format.h"
 #include "devices/decimal_value.h"
 #include "devices/field_scales.h"
-#include "devices/option_entry.h"
+#include "core/option_entry.h"
 #include "devices/scaled_value.h"
 #include "devices/time_stamp.h"
 

@@ -6,7 +6,7 @@
 #include <iterator>
 
 #include "core/errors.h"
-#include "devices/option_entry.h"
+#include "core/option_entry.h"
 
 namespace render {
 

@@ -5,7 +5,7 @@
 
 #include "core/text_format.h"
 #include "devices/decimal_value.h"
-#include "devices/option_entry.h"
+#include "core/option_entry.h"
 #include "events/command_text.h"
 #include "events/event_text.h"
 
@@ -123,7 +123,7 @@ struct device_properties {
         return {in.read_wstring(), in.read_u32() & carrier_mode_bits, in.read_wstring()};
     }
 
-    const OptionEntry* carrier_row() const noexcept { return find_option(carrier_modes, carrier); }
+    const OptionEntry* carrier_row() const noexcept { return find_row(carrier_modes, carrier); }
 };
 
 // --- Property records of the newer units ------------------------------------
