@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstring>
 
 #include "core/win_types.h"
 
@@ -43,7 +42,12 @@ consteval GUID make_guid(const char (&text)[37])
     return guid;
 }
 
-inline bool same_guid(const GUID& a, const GUID& b) noexcept
+constexpr bool same_guid(const GUID& a, const GUID& b) noexcept
 {
-    return std::memcmp(&a, &b, sizeof(GUID)) == 0;
+    if (a.Data1 != b.Data1 || a.Data2 != b.Data2 || a.Data3 != b.Data3)
+        return false;
+    for (int i = 0; i < 8; ++i)
+        if (a.Data4[i] != b.Data4[i])
+            return false;
+    return true;
 }

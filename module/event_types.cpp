@@ -3,6 +3,9 @@
 #include <array>
 
 #include "core/guid.h"
+#ifdef _WIN32
+#include "module/published_event_ids.h"
+#endif
 #include "devices/data_changed_events.h"
 #include "devices/device_parameters_event.h"
 #include "events/alarm_events.h"
@@ -163,6 +166,20 @@ constexpr std::array<event_type_row, 40> table{{
     make_event_type_row(demodulator_failed_id, no_xml_form, text_form<demodulator_failed_text>,
                         WSTR("Demodulator Failed Event")),
 }};
+
+#ifdef _WIN32
+// Hosts name the event types by the identifiers of korps/korps_events.h; the
+// module does not build unless the header lists exactly these, in this order.
+static_assert(published_event_ids.count == table.size(), "korps_events.h lists another number of event types");
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < table.size(); ++i)
+            if (!same_guid(published_event_ids.ids[i], *table[i].eventType))
+                return false;
+        return true;
+    }(),
+    "korps_events.h and the event table disagree on an identifier or the order");
+#endif
 
 } // namespace
 

@@ -3,7 +3,8 @@
  * hands them out (the comment gives the index and the display name). Compiles
  * as C and as C++. As with the platform's own GUIDs, one source file of the
  * host defines them by including <initguid.h> first (korps/korps_guids.cpp
- * does).
+ * does). The module is checked against this list when it is built: it does
+ * not build unless the identifiers and their order here are its own.
  */
 #ifndef KORPS_KORPS_EVENTS_H
 #define KORPS_KORPS_EVENTS_H
