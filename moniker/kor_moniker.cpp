@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <new>
+#include <utility>
 
 #include "core/boundary.h"
 #include "core/interface_map.h"
@@ -97,11 +97,6 @@ CKorMoniker::~CKorMoniker()
     module::unlock();
 }
 
-com_ptr<CKorMoniker> CKorMoniker::New(const KorName& name) noexcept
-{
-    return com_ptr<CKorMoniker>(new (std::nothrow) CKorMoniker(name));
-}
-
 HRESULT CKorMoniker::Parse(LPCOLESTR text, ULONG* eaten) noexcept
 {
     if (!eaten)
@@ -183,7 +178,9 @@ HRESULT CKorMoniker::FindServiceProvider(IBindCtx* pbc, IMoniker* pmkToLeft, com
         return result;
     if (!object)
         return E_UNEXPECTED;
-    return object->QueryInterface(IID_IServiceProvider, provider.put_void());
+    com_query<IServiceProvider> found = object.query<IServiceProvider>();
+    provider = std::move(found.ptr);
+    return found.result;
 }
 
 HRESULT CKorMoniker::BindToObject(IBindCtx* pbc, IMoniker* pmkToLeft, REFIID riidResult, void** ppvResult)
