@@ -11,11 +11,22 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <tuple>
 
 #include "moniker/kor_name.h"
+#include "moniker/kor_name_kinds.h"
 
 // The most any name takes, promised to hosts that size their storage.
 inline constexpr std::size_t kor_name_stream_max = 24;
+
+inline constexpr std::size_t kor_name_word_bytes = 4;
+
+// The bytes a name of `kind` takes, its kind word included.
+constexpr std::size_t kor_name_stream_bytes(const kor_name_kind& kind) noexcept
+{
+    return kor_name_word_bytes + (kind.mac ? std::tuple_size_v<decltype(KorName::mac)> : 0) +
+           kind.words.size() * kor_name_word_bytes;
+}
 
 // Where the bytes go and come from. A sink writes all or throws; a source
 // fills all or throws.

@@ -313,13 +313,20 @@ TEST(KorNameHash, ValueOfEachKind)
         std::uint32_t hash;
     };
     const test_case cases[] = {
-        {mac({0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C}), 0xB01A2B3Cu ^ 0x0006u},
-        {mac({0xFF, 0xEE, 0x00, 0x00, 0x00, 0x00}), 0xFFEEu},
-        {device(52, 0x0A000001), 0x0A000035},
-        // The extended form ANDs type and address where the plain one XORs.
-        {device_ex(52, 0x0A000001, 7, 3), 4},
-        {device_ex(0xFF, 0x0A0000F1, 0x100, 0x1000), 0xF1 ^ 0x100 ^ 0x1000},
-        {transponder(12), 12},
+        // Stored bytes 00 06 B0 1A 2B 3C are bytes 5..0: word 0xB01A2B3C (bytes 3..0) XOR 0x0006 (bytes 5, 4).
+        {mac({0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C}), 0xB01A2B3Au},
+        // Bytes 5, 4 are FF, EE and bytes 3..0 zero: 0 XOR 0xFFEE.
+        {mac({0xFF, 0xEE, 0x00, 0x00, 0x00, 0x00}), 0x0000FFEEu},
+        // 0x0A000001 XOR 52 (0x34).
+        {device(52, 0x0A000001), 0x0A000035u},
+        // All 32 bits of the type count: 0x7F000001 XOR 0x134.
+        {device(0x100 + 52, 0x7F000001), 0x7F000135u},
+        // 0x0A000001 AND 0x34 is 0, then XOR 7 XOR 3 is 4.
+        {device_ex(52, 0x0A000001, 7, 3), 4u},
+        // 0x0A0000F1 AND 0xFF is 0xF1; XOR 0x100 gives 0x1F1; XOR 0x1000 gives 0x11F1.
+        {device_ex(0xFF, 0x0A0000F1, 0x100, 0x1000), 0x000011F1u},
+        // The number itself.
+        {transponder(12), 12u},
     };
     for (const test_case& c : cases)
         EXPECT_EQ(kor_name_hash(c.name), c.hash) << printed(c.name);
