@@ -81,7 +81,9 @@ HRESULT CKorMoniker::Load(IStream* pStm)
         return E_POINTER;
     return guarded([&] {
         stream_bytes in(pStm);
-        load_kor_name(name_, in);
+        KorName loaded;
+        load_kor_name(loaded, in);
+        name_ = loaded;   // a Load that fails leaves the moniker as it was
         return S_OK;
     });
 }

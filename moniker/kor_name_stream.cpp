@@ -49,16 +49,18 @@ void load_kor_name(KorName& name, byte_source& in)
 {
     std::uint8_t bytes[kor_name_stream_max];
     in.read(bytes, kor_name_word_bytes);
-    name.kind = get_word(bytes);
-    const kor_name_kind& kind = stored_kind(name.kind);
+    KorName loaded;
+    loaded.kind = get_word(bytes);
+    const kor_name_kind& kind = stored_kind(loaded.kind);
     in.read(bytes, kor_name_stream_bytes(kind) - kor_name_word_bytes);
     const std::uint8_t* field = bytes;
     if (kind.mac) {
-        std::reverse_copy(field, field + name.mac.size(), name.mac.begin());
-        field += name.mac.size();
+        std::reverse_copy(field, field + loaded.mac.size(), loaded.mac.begin());
+        field += loaded.mac.size();
     }
     for (const KorWord word : kind.words) {
-        name.*word = get_word(field);
+        loaded.*word = get_word(field);
         field += kor_name_word_bytes;
     }
+    name = loaded;
 }

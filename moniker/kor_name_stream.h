@@ -50,7 +50,7 @@ protected:
 // that is not a form.
 void save_kor_name(const KorName& name, byte_sink& out);
 
-// Reads the kind into `name` first, then that kind's fields: not_expected
-// for a kind that is not a form. After a failure `name` is left part-read and
-// is of no further use.
+// Reads the kind, then that kind's fields, and only then sets `name`:
+// not_expected for a kind that is not a form. After a failure `name` is as it
+// was.
 void load_kor_name(KorName& name, byte_source& in);

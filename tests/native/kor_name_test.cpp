@@ -10,6 +10,7 @@
 #include "core/boundary.h"
 #include "core/text_tokens.h"
 #include "moniker/kor_name.h"
+#include "moniker/kor_name_kinds.h"
 #include "moniker/kor_name_parser.h"
 #include "moniker/kor_name_printer.h"
 #include "moniker/kor_name_stream.h"
@@ -303,6 +304,26 @@ TEST(KorNameStream, BytesOfEachKind)
         load_kor_name(loaded, in);
         EXPECT_EQ(loaded, c.name) << printed(c.name);
         EXPECT_EQ(in.at, c.bytes.size());
+    }
+}
+
+// Every shorter stream fails, an unknown kind too, and the name read into
+// is left as it was, whether the kind was read or not.
+TEST(KorNameStream, AFailedLoadChangesNothing)
+{
+    ASSERT_EQ(std::size(stored_names), kor_name_kinds().size()) << "a stored name of every kind";
+    std::vector<std::vector<std::uint8_t>> failing = {{4, 0, 0, 0, 1, 2, 3, 4}, {0xFF, 0xFF, 0xFF, 0xFF}};
+    for (const stored& c : stored_names)
+        for (std::size_t size = 0; size < c.bytes.size(); ++size)
+            failing.emplace_back(c.bytes.begin(), c.bytes.begin() + static_cast<std::ptrdiff_t>(size));
+    const KorName before = device_ex(52, 0x0A000001, 7, 3);
+    for (const std::vector<std::uint8_t>& bytes : failing) {
+        memory_source in;
+        in.bytes = bytes;
+        KorName name = before;
+        EXPECT_ANY_THROW(load_kor_name(name, in)) << testing::PrintToString(bytes);
+        EXPECT_EQ(name, before) << testing::PrintToString(bytes);
+        EXPECT_EQ(printed(name), "kor:fcn1l-10.0.0.1,7,3");
     }
 }
 
