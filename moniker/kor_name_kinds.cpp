@@ -28,7 +28,7 @@ std::uint8_t read_decimal_byte(text_reader& in)
     return in.read_integer<unsigned char, 10, 0>();
 }
 
-// --- kind 0: a unit by MAC address ------------------------------------------
+// --- kind 0: a unit by MAC address
 
 // Three bytes, "-", three bytes: the order in which they print, so the first
 // lands in byte 5.
@@ -56,7 +56,7 @@ std::uint32_t mac_hash(const KorName& n) noexcept
     return little_endian(m[0], m[1], m[2], m[3]) ^ little_endian(m[4], m[5]);
 }
 
-// --- kind 1: a device at an IPv4 address --------------------------------------
+// --- kind 1: a device at an IPv4 address
 
 // Four decimal bytes joined by "."; the first is the most significant. The
 // device type comes from the key before them.
@@ -83,7 +83,7 @@ std::uint32_t device_hash(const KorName& n) noexcept
 
 constexpr KorWord device_words[] = {&KorName::deviceType, &KorName::address};
 
-// --- kind 2: the same, extended: ",<idValue>,<subIndex>" after the address -----
+// --- kind 2: the same, extended: ",<idValue>,<subIndex>" after the address
 
 void read_extension(text_reader& in, KorName& name)
 {
@@ -108,7 +108,7 @@ std::uint32_t device_ex_hash(const KorName& n) noexcept
 constexpr KorWord device_ex_words[] = {&KorName::deviceType, &KorName::address, &KorName::subIndex,
                                        &KorName::idValue};
 
-// --- kind 3: a transponder ------------------------------------------------------
+// --- kind 3: a transponder
 
 void read_transponder(text_reader& in, KorName& name)
 {
@@ -130,7 +130,7 @@ constexpr KorWord transponder_words[] = {&KorName::transponder};
 
 #ifdef _WIN32
 
-// --- the host's binder calls and another moniker's getters, kind by kind -------
+// --- the host's binder calls and another moniker's getters, kind by kind
 
 HRESULT bind_mac(IKorBinder* binder, const KorName& n, const GUID& riid, void** ppv)
 {
@@ -231,6 +231,7 @@ constexpr kor_name_kind kinds[] = {
     },
 };
 static_assert(std::size(kinds) == KorName::Transponder + 1, "one row per kind, in kind order");
+
 constexpr bool extends_earlier_kinds() noexcept
 {
     for (std::size_t kind = 0; kind < std::size(kinds); ++kind)
