@@ -1,10 +1,23 @@
 // One owned reference to a COM interface, released when the holder goes, so
-// that every path out of a function gives back what it took.
+// that every path out of a function gives back what it took; and make_com,
+// the one way the module makes its COM objects.
 #pragma once
 
+#include <new>
 #include <utility>
 
 #include "core/win_types.h"
+
+template <class Interface>
+class com_ptr;
+
+// What com_ptr::query gives: the interface with S_OK, or null with the
+// object's refusal (E_NOINTERFACE as a rule).
+template <class Interface>
+struct com_query {
+    HRESULT result;
+    com_ptr<Interface> ptr;
+};
 
 template <class Interface>
 class com_ptr {
@@ -12,12 +25,12 @@ public:
     com_ptr() noexcept = default;
     // Takes over a reference the caller already owns.
     explicit com_ptr(Interface* adopted) noexcept : p_(adopted) {}
-    com_ptr(com_ptr&& other) noexcept : p_(std::exchange(other.p_, nullptr)) {}
+    com_ptr(com_ptr&& other) noexcept : p_(other.detach()) {}
     com_ptr& operator=(com_ptr&& other) noexcept
     {
         if (this != &other) {
             reset();
-            p_ = std::exchange(other.p_, nullptr);
+            p_ = other.detach();
         }
         return *this;
     }
@@ -43,6 +56,32 @@ public:
             std::exchange(p_, nullptr)->Release();
     }
 
+    // Hands the reference to the caller, who releases it: for an out
+    // parameter of a call that succeeded. Holds nothing afterwards.
+    [[nodiscard]] Interface* detach() noexcept { return std::exchange(p_, nullptr); }
+
+    // The held object's `Other` interface, asked for by its IID (__uuidof,
+    // so `Other` is one of the platform's or the module's declared
+    // interfaces). Must hold an object.
+    template <class Other>
+    com_query<Other> query() const noexcept
+    {
+        com_ptr<Other> other;
+        const HRESULT result = p_->QueryInterface(__uuidof(Other), other.put_void());
+        return {result, std::move(other)};
+    }
+
 private:
     Interface* p_ = nullptr;
 };
+
+// A new COM object of the module, holding the one reference it starts with,
+// which the com_ptr adopts; null when memory ran out. Every object the module
+// hands out is made here, starts at 1 and is handed on with detach() or a
+// QueryInterface; its constructor may not throw.
+template <class Object, class... Args>
+com_ptr<Object> make_com(Args&&... args) noexcept
+{
+    static_assert(noexcept(new (std::nothrow) Object(std::declval<Args>()...)), "the constructor may not throw");
+    return com_ptr<Object>(new (std::nothrow) Object(std::forward<Args>(args)...));
+}

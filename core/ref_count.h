@@ -10,7 +10,9 @@ namespace module {
 
 class ref_count {
 public:
-    explicit ref_count(unsigned long initial = 0) noexcept : refs_(initial) {}
+    // An object starts with the one reference its maker holds (make_com); an
+    // object that lives on its own counts only outside references, from 0.
+    explicit ref_count(unsigned long initial = 1) noexcept : refs_(initial) {}
 
     unsigned long add() noexcept { return refs_.fetch_add(1, std::memory_order_relaxed) + 1; }
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <type_traits>
 
-#include "core/enum_eventui.h"
+#include "module/enum_eventui.h"
 #include "events/alarm_type_map.h"
 #include "module/event_types.h"
 #include "module/korps_module.h"

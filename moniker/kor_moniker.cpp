@@ -1,12 +1,12 @@
 #include "moniker/kor_moniker.h"
 
 #include <algorithm>
-#include <iterator>
-#include <new>
+#include <utility>
 
 #include "core/boundary.h"
 #include "core/interface_map.h"
 #include "core/module_lock.h"
+#include "moniker/kor_name_kinds.h"
 #include "moniker/kor_name_parser.h"
 #include "moniker/kor_name_printer.h"
 #include "moniker/kor_name_stream.h"
@@ -16,67 +16,6 @@ namespace {
 
 // The bind context's object under which the host leaves its service provider.
 wchar_t service_provider_key[] = L"ServiceProvider";
-
-// The binder operation of each kind, indexed by kind.
-using bind_operation = HRESULT (*)(IKorBinder*, const KorName&, REFIID, void**);
-
-constexpr bind_operation bind_operations[] = {
-    [](IKorBinder* b, const KorName& n, REFIID riid, void** ppv) { return b->BindMac(n.mac.data(), riid, ppv); },
-    [](IKorBinder* b, const KorName& n, REFIID riid, void** ppv) {
-        return b->BindDevice(n.deviceType, n.address, riid, ppv);
-    },
-    [](IKorBinder* b, const KorName& n, REFIID riid, void** ppv) {
-        return b->BindDeviceEx(n.deviceType, n.address, n.subIndex, n.idValue, riid, ppv);
-    },
-    [](IKorBinder* b, const KorName& n, REFIID riid, void** ppv) {
-        return b->BindTransponder(n.transponder, riid, ppv);
-    },
-};
-static_assert(std::size(bind_operations) == KorName::Transponder + 1);
-
-// Another moniker's fields of one kind, read through its getters.
-HRESULT read_mac(IKorMoniker* other, KorName& name)
-{
-    return other->GetMacAddress(name.mac.data());
-}
-
-HRESULT read_pair(HRESULT (STDMETHODCALLTYPE IKorMoniker::*getter)(ULONG*, ULONG*), IKorMoniker* other,
-                  std::uint32_t& first, std::uint32_t& second)
-{
-    ULONG a = 0, b = 0;
-    const HRESULT result = (other->*getter)(&a, &b);
-    first = a;
-    second = b;
-    return result;
-}
-
-HRESULT read_device(IKorMoniker* other, KorName& name)
-{
-    return read_pair(&IKorMoniker::GetDeviceAddress, other, name.deviceType, name.address);
-}
-
-HRESULT read_device_ex(IKorMoniker* other, KorName& name)
-{
-    const HRESULT result = read_device(other, name);
-    return FAILED(result) ? result : read_pair(&IKorMoniker::GetExtension, other, name.subIndex, name.idValue);
-}
-
-HRESULT read_transponder(IKorMoniker* other, KorName& name)
-{
-    ULONG transponder = 0;
-    const HRESULT result = other->GetTransponder(&transponder);
-    name.transponder = transponder;
-    return result;
-}
-
-// Indexed by kind.
-constexpr HRESULT (*const field_readers[])(IKorMoniker*, KorName&) = {
-    read_mac,
-    read_device,
-    read_device_ex,
-    read_transponder,
-};
-static_assert(std::size(field_readers) == KorName::Transponder + 1);
 
 constexpr interface_entry<CKorMoniker> interfaces[] = {
     interface_row<CKorMoniker, IPersist, IMoniker>(IID_IPersist),
@@ -95,11 +34,6 @@ CKorMoniker::CKorMoniker(const KorName& name) noexcept : name_(name)
 CKorMoniker::~CKorMoniker()
 {
     module::unlock();
-}
-
-com_ptr<CKorMoniker> CKorMoniker::New(const KorName& name) noexcept
-{
-    return com_ptr<CKorMoniker>(new (std::nothrow) CKorMoniker(name));
 }
 
 HRESULT CKorMoniker::Parse(LPCOLESTR text, ULONG* eaten) noexcept
@@ -147,7 +81,9 @@ HRESULT CKorMoniker::Load(IStream* pStm)
         return E_POINTER;
     return guarded([&] {
         stream_bytes in(pStm);
-        load_kor_name(name_, in);
+        KorName loaded;
+        load_kor_name(loaded, in);
+        name_ = loaded;   // a Load that fails leaves the moniker as it was
         return S_OK;
     });
 }
@@ -183,7 +119,9 @@ HRESULT CKorMoniker::FindServiceProvider(IBindCtx* pbc, IMoniker* pmkToLeft, com
         return result;
     if (!object)
         return E_UNEXPECTED;
-    return object->QueryInterface(IID_IServiceProvider, provider.put_void());
+    com_query<IServiceProvider> found = object.query<IServiceProvider>();
+    provider = std::move(found.ptr);
+    return found.result;
 }
 
 HRESULT CKorMoniker::BindToObject(IBindCtx* pbc, IMoniker* pmkToLeft, REFIID riidResult, void** ppvResult)
@@ -200,9 +138,10 @@ HRESULT CKorMoniker::BindToObject(IBindCtx* pbc, IMoniker* pmkToLeft, REFIID rii
         return result;
     if (!binder)
         return E_UNEXPECTED;
-    if (!is_valid_kind(name_.kind))
+    const kor_name_kind* kind = find_kor_name_kind(name_.kind);
+    if (!kind)
         return E_UNEXPECTED;
-    return bind_operations[name_.kind](binder.get(), name_, riidResult, ppvResult);
+    return kind->bind(binder.get(), name_, riidResult, ppvResult);
 }
 
 HRESULT CKorMoniker::BindToStorage(IBindCtx*, IMoniker*, REFIID, void**)
@@ -243,11 +182,12 @@ HRESULT CKorMoniker::IsEqual(IMoniker* pmkOtherMoniker)
         return E_UNEXPECTED;
     if (kind != name_.kind)
         return S_FALSE;
-    if (!is_valid_kind(name_.kind))
+    const kor_name_kind* row = find_kor_name_kind(kind);
+    if (!row)
         return E_UNEXPECTED;
     KorName theirs;
     theirs.kind = kind;
-    if (FAILED(field_readers[kind](other.get(), theirs)))
+    if (FAILED(row->read_from(other.get(), theirs)))
         return E_UNEXPECTED;
     return theirs == name_ ? S_OK : S_FALSE;
 }

@@ -14,8 +14,9 @@ class CKorMoniker final : public IMoniker, public IKorMoniker {
 public:
     class CFactory;
 
-    // A new moniker naming `name`, with one reference; null when memory ran out.
-    static com_ptr<CKorMoniker> New(const KorName& name = {}) noexcept;
+    // A moniker naming `name`, made with make_com<CKorMoniker>(name), which
+    // holds its first reference. The destructor is Release's alone.
+    explicit CKorMoniker(const KorName& name = {}) noexcept;
 
     // Reads a "kor:" display name into this freshly made moniker: S_OK with the
     // characters consumed in *eaten; E_UNEXPECTED, without an error object, for
@@ -67,14 +68,13 @@ public:
     HRESULT STDMETHODCALLTYPE GetTransponder(ULONG* transponder) override;
 
 private:
-    explicit CKorMoniker(const KorName& name) noexcept;
     ~CKorMoniker();
 
     // The service provider this moniker binds through: the left moniker's
     // object, or the bind context's "ServiceProvider" object.
     static HRESULT FindServiceProvider(IBindCtx* pbc, IMoniker* pmkToLeft, com_ptr<IServiceProvider>& provider);
 
-    module::ref_count refs_{1};
+    module::ref_count refs_;
     // Written only while the moniker is being made, parsed or loaded, before
     // anybody else holds it; read-only afterwards.
     KorName name_;

@@ -49,7 +49,7 @@ HRESULT CFactory::CreateInstance(IUnknown* pUnkOuter, REFIID riid, void** ppvObj
     *ppvObject = nullptr;
     if (pUnkOuter)
         return CLASS_E_NOAGGREGATION;
-    return Hand(CKorMoniker::New(), riid, ppvObject);
+    return Hand(make_com<CKorMoniker>(), riid, ppvObject);
 }
 
 HRESULT CFactory::LockServer(BOOL fLock)
@@ -66,17 +66,16 @@ HRESULT CFactory::ParseDisplayName(IBindCtx*, LPOLESTR pszDisplayName, ULONG* pc
     if (!pchEaten || !ppmkOut)
         return E_POINTER;
     *ppmkOut = nullptr;
-    com_ptr<CKorMoniker> moniker = CKorMoniker::New();
+    com_ptr<CKorMoniker> moniker = make_com<CKorMoniker>();
     if (!moniker)
         return E_OUTOFMEMORY;
     ULONG eaten = 0;
-    HRESULT result = moniker->Parse(pszDisplayName, &eaten);
+    const HRESULT result = moniker->Parse(pszDisplayName, &eaten);
     if (FAILED(result))
         return result;
-    result = moniker->QueryInterface(IID_IMoniker, reinterpret_cast<void**>(ppmkOut));
-    if (SUCCEEDED(result))
-        *pchEaten = eaten;
-    return result;
+    *pchEaten = eaten;
+    *ppmkOut = moniker.detach();
+    return S_OK;
 }
 
 HRESULT CFactory::CreateFromStream(IStream* stream, REFIID riid, void** object)
@@ -84,7 +83,7 @@ HRESULT CFactory::CreateFromStream(IStream* stream, REFIID riid, void** object)
     if (!object)
         return E_POINTER;
     *object = nullptr;
-    com_ptr<CKorMoniker> moniker = CKorMoniker::New();
+    com_ptr<CKorMoniker> moniker = make_com<CKorMoniker>();
     if (!moniker)
         return E_OUTOFMEMORY;
     const HRESULT result = moniker->Load(stream);
@@ -105,7 +104,11 @@ HRESULT CFactory::Create(const KorName& name, IMoniker** moniker) noexcept
     if (!moniker)
         return E_POINTER;
     *moniker = nullptr;
-    return Hand(CKorMoniker::New(name), IID_IMoniker, reinterpret_cast<void**>(moniker));
+    com_ptr<CKorMoniker> made = make_com<CKorMoniker>(name);
+    if (!made)
+        return E_OUTOFMEMORY;
+    *moniker = made.detach();
+    return S_OK;
 }
 
 // Hosts name units by MAC address only by parsing "kor:mac-..." names.

@@ -5,7 +5,6 @@
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <span>
 
 struct KorName {
     enum Kind : std::uint32_t {
@@ -16,7 +15,7 @@ struct KorName {
     };
 
     // Any value may arrive from a stream or a host; only the four above are
-    // forms, and the operations below refuse the rest.
+    // forms (moniker/kor_name_kinds.h), and the operations refuse the rest.
     std::uint32_t kind = MacAddress;
 
     // Each form reads only its own fields. Parsed names hold byte values in
@@ -29,17 +28,6 @@ struct KorName {
     std::uint32_t idValue = 0;
     std::uint32_t transponder = 0;
 };
-
-constexpr bool is_valid_kind(std::uint32_t kind) noexcept
-{
-    return kind <= KorName::Transponder;
-}
-
-// The 32-bit fields of each form, in the order in which the form is stored
-// and compared: the MAC form has none (its bytes are its own field), an
-// invalid kind none either.
-using KorWord = std::uint32_t KorName::*;
-std::span<const KorWord> kor_name_words(std::uint32_t kind) noexcept;
 
 // Same kind and the same fields of that kind.
 bool operator==(const KorName& a, const KorName& b) noexcept;

@@ -1,86 +1,15 @@
 #include "moniker/kor_name_parser.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <string_view>
 
 #include "core/boundary.h"
 #include "core/text_reader.h"
 #include "devices/device_types.h"
+#include "moniker/kor_name_kinds.h"
 
 namespace {
-
-std::uint8_t read_decimal_byte(text_reader& in)
-{
-    return in.read_integer<unsigned char, 10, 0>();
-}
-
-// Four decimal bytes joined by "."; the first is the most significant.
-std::uint32_t read_ipv4(text_reader& in)
-{
-    std::uint32_t address = read_decimal_byte(in);
-    for (int i = 1; i < 4; ++i) {
-        in.expect<char>(".");
-        address = address << 8 | read_decimal_byte(in);
-    }
-    return address;
-}
-
-// After the device type key: "-", the address, and the extension when a ","
-// follows the address.
-void read_device(text_reader& in, KorName& name)
-{
-    in.expect<char[2]>("-");
-    name.address = read_ipv4(in);
-    if (!in.skip(",")) {
-        name.kind = KorName::DeviceAtAddress;
-        return;
-    }
-    name.kind = KorName::DeviceAtAddressExtended;
-    name.idValue = in.read_integer<unsigned int, 10, 0>();
-    in.expect<char>(",");
-    name.subIndex = read_decimal_byte(in);
-}
-
-void read_transponder(text_reader& in, KorName& name)
-{
-    name.kind = KorName::Transponder;
-    name.transponder = read_decimal_byte(in);
-}
-
-// Three bytes, "-", three bytes: the order in which they print, so the
-// first lands in byte 5.
-void read_mac(text_reader& in, KorName& name)
-{
-    name.kind = KorName::MacAddress;
-    for (std::size_t i = 0; i < name.mac.size(); ++i) {
-        if (i == name.mac.size() / 2)
-            in.expect<char>("-");
-        name.mac[name.mac.size() - 1 - i] = in.read_integer<unsigned char, 16, 2>();
-    }
-}
-
-struct identifier_form {
-    std::string_view identifier;   // matched case-sensitively and whole
-    void (*read)(text_reader&, KorName&);
-};
-
-constexpr identifier_form identifier_forms[] = {
-    {"transponder", read_transponder},
-    {"mac", read_mac},
-};
-
-void read_identifier_form(text_reader& in, KorName& name)
-{
-    const wstring_view identifier = in.read_identifier();
-    in.expect<char[2]>("-");
-    for (const identifier_form& form : identifier_forms) {
-        if (ascii_equal(identifier, form.identifier)) {
-            form.read(in, name);
-            return;
-        }
-    }
-    throw std::runtime_error("unrecognized moniker string");
-}
 
 constexpr wchar fold(wchar c) noexcept
 {
@@ -115,6 +44,42 @@ key_match match_device_key(wstring_view text) noexcept
     return best;
 }
 
+// The head of the name and the "-" after it: a device type key, whose type
+// the name takes, or an identifier. Sets the kind that starts with that head.
+void read_head(text_reader& in, KorName& name)
+{
+    wstring_view identifier;   // none for a device type key
+    if (const key_match key = match_device_key(in.rest()); key.row) {
+        in.advance(key.length);
+        name.deviceType = key.row->value;
+    } else {
+        identifier = in.read_identifier();
+    }
+    in.expect<char[2]>("-");
+    const auto kinds = kor_name_kinds();
+    const auto kind = std::ranges::find_if(
+        kinds, [&](const kor_name_kind& k) { return !k.extends && k.identifier == identifier; });
+    if (kind == kinds.end())
+        throw std::runtime_error("unrecognized moniker string");
+    name.kind = static_cast<std::uint32_t>(kind - kinds.begin());
+}
+
+// The fields of the kind the head started, and of each kind extending it
+// whose tail follows.
+void read_fields(text_reader& in, KorName& name)
+{
+    const auto kinds = kor_name_kinds();
+    kinds[name.kind].read(in, name);
+    for (std::uint32_t kind = 0; kind < kinds.size(); ++kind) {
+        const kor_name_kind& extension = kinds[kind];
+        if (extension.extends == name.kind && in.rest().starts_with(extension.tail)) {
+            in.advance(extension.tail.size());
+            name.kind = kind;
+            extension.read(in, name);
+        }
+    }
+}
+
 } // namespace
 
 std::optional<parsed_kor_name> read_kor_name(wstring_view text, std::size_t* stopped)
@@ -125,14 +90,8 @@ std::optional<parsed_kor_name> read_kor_name(wstring_view text, std::size_t* sto
 
     parsed_kor_name parsed{};
     try {
-        const key_match key = match_device_key(in.rest());
-        if (key.row) {
-            in.advance(key.length);
-            parsed.name.deviceType = key.row->value;
-            read_device(in, parsed.name);
-        } else {
-            read_identifier_form(in, parsed.name);
-        }
+        read_head(in, parsed.name);
+        read_fields(in, parsed.name);
     } catch (...) {
         if (stopped)
             *stopped = in.position();

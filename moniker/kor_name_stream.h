@@ -11,11 +11,22 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <tuple>
 
 #include "moniker/kor_name.h"
+#include "moniker/kor_name_kinds.h"
 
 // The most any name takes, promised to hosts that size their storage.
 inline constexpr std::size_t kor_name_stream_max = 24;
+
+inline constexpr std::size_t kor_name_word_bytes = 4;
+
+// The bytes a name of `kind` takes, its kind word included.
+constexpr std::size_t kor_name_stream_bytes(const kor_name_kind& kind) noexcept
+{
+    return kor_name_word_bytes + (kind.mac ? std::tuple_size_v<decltype(KorName::mac)> : 0) +
+           kind.words.size() * kor_name_word_bytes;
+}
 
 // Where the bytes go and come from. A sink writes all or throws; a source
 // fills all or throws.
@@ -39,7 +50,7 @@ protected:
 // that is not a form.
 void save_kor_name(const KorName& name, byte_sink& out);
 
-// Reads the kind into `name` first, then that kind's fields: not_expected
-// for a kind that is not a form. After a failure `name` is left part-read and
-// is of no further use.
+// Reads the kind, then that kind's fields, and only then sets `name`:
+// not_expected for a kind that is not a form. After a failure `name` is as it
+// was.
 void load_kor_name(KorName& name, byte_source& in);

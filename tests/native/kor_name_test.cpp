@@ -10,6 +10,7 @@
 #include "core/boundary.h"
 #include "core/text_tokens.h"
 #include "moniker/kor_name.h"
+#include "moniker/kor_name_kinds.h"
 #include "moniker/kor_name_parser.h"
 #include "moniker/kor_name_printer.h"
 #include "moniker/kor_name_stream.h"
@@ -306,6 +307,26 @@ TEST(KorNameStream, BytesOfEachKind)
     }
 }
 
+// Every shorter stream fails, an unknown kind too, and the name read into
+// is left as it was, whether the kind was read or not.
+TEST(KorNameStream, AFailedLoadChangesNothing)
+{
+    ASSERT_EQ(std::size(stored_names), kor_name_kinds().size()) << "a stored name of every kind";
+    std::vector<std::vector<std::uint8_t>> failing = {{4, 0, 0, 0, 1, 2, 3, 4}, {0xFF, 0xFF, 0xFF, 0xFF}};
+    for (const stored& c : stored_names)
+        for (std::size_t size = 0; size < c.bytes.size(); ++size)
+            failing.emplace_back(c.bytes.begin(), c.bytes.begin() + static_cast<std::ptrdiff_t>(size));
+    const KorName before = device_ex(52, 0x0A000001, 7, 3);
+    for (const std::vector<std::uint8_t>& bytes : failing) {
+        memory_source in;
+        in.bytes = bytes;
+        KorName name = before;
+        EXPECT_ANY_THROW(load_kor_name(name, in)) << testing::PrintToString(bytes);
+        EXPECT_EQ(name, before) << testing::PrintToString(bytes);
+        EXPECT_EQ(printed(name), "kor:fcn1l-10.0.0.1,7,3");
+    }
+}
+
 TEST(KorNameHash, ValueOfEachKind)
 {
     struct test_case {
@@ -313,13 +334,20 @@ TEST(KorNameHash, ValueOfEachKind)
         std::uint32_t hash;
     };
     const test_case cases[] = {
-        {mac({0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C}), 0xB01A2B3Cu ^ 0x0006u},
-        {mac({0xFF, 0xEE, 0x00, 0x00, 0x00, 0x00}), 0xFFEEu},
-        {device(52, 0x0A000001), 0x0A000035},
-        // The extended form ANDs type and address where the plain one XORs.
-        {device_ex(52, 0x0A000001, 7, 3), 4},
-        {device_ex(0xFF, 0x0A0000F1, 0x100, 0x1000), 0xF1 ^ 0x100 ^ 0x1000},
-        {transponder(12), 12},
+        // Stored bytes 00 06 B0 1A 2B 3C are bytes 5..0: word 0xB01A2B3C (bytes 3..0) XOR 0x0006 (bytes 5, 4).
+        {mac({0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C}), 0xB01A2B3Au},
+        // Bytes 5, 4 are FF, EE and bytes 3..0 zero: 0 XOR 0xFFEE.
+        {mac({0xFF, 0xEE, 0x00, 0x00, 0x00, 0x00}), 0x0000FFEEu},
+        // 0x0A000001 XOR 52 (0x34).
+        {device(52, 0x0A000001), 0x0A000035u},
+        // All 32 bits of the type count: 0x7F000001 XOR 0x134.
+        {device(0x100 + 52, 0x7F000001), 0x7F000135u},
+        // 0x0A000001 AND 0x34 is 0, then XOR 7 XOR 3 is 4.
+        {device_ex(52, 0x0A000001, 7, 3), 4u},
+        // 0x0A0000F1 AND 0xFF is 0xF1; XOR 0x100 gives 0x1F1; XOR 0x1000 gives 0x11F1.
+        {device_ex(0xFF, 0x0A0000F1, 0x100, 0x1000), 0x000011F1u},
+        // The number itself.
+        {transponder(12), 12u},
     };
     for (const test_case& c : cases)
         EXPECT_EQ(kor_name_hash(c.name), c.hash) << printed(c.name);

@@ -1,4 +1,5 @@
-// The enumerator over the event type table that UI_EnumEVENTUI hands out.
+// The enumerator over the module's event type table that UI_EnumEVENTUI
+// hands out, in the host's enumerator interface.
 #pragma once
 
 #include "core/event_type_row.h"
@@ -11,6 +12,10 @@ public:
     // reference, in *ppEnum. Failures leave *ppEnum unchanged.
     static HRESULT Create(const event_type_row* begin, const event_type_row* end, IEnumEVENTUI** ppEnum);
 
+    // Made with make_com, which holds its first reference; the destructor is
+    // Release's alone.
+    CEnumEVENTUI(const event_type_row* begin, const event_type_row* end) noexcept;
+
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** ppv) override;
     ULONG STDMETHODCALLTYPE AddRef() override;
     ULONG STDMETHODCALLTYPE Release() override;
@@ -20,11 +25,10 @@ public:
     HRESULT STDMETHODCALLTYPE Clone(IEnumEVENTUI** ppEnum) override;
 
 private:
-    CEnumEVENTUI() noexcept;
     ~CEnumEVENTUI();
 
     module::ref_count refs_;
-    const event_type_row* begin_ = nullptr;
-    const event_type_row* cur_ = nullptr;
-    const event_type_row* end_ = nullptr;
+    const event_type_row* begin_;
+    const event_type_row* cur_;
+    const event_type_row* end_;
 };

@@ -1,12 +1,13 @@
-#include "core/enum_eventui.h"
+#include "module/enum_eventui.h"
 
 #include <cstring>
-#include <new>
 
+#include "core/com_ptr.h"
 #include "core/interface_map.h"
 #include "core/module_lock.h"
 
-CEnumEVENTUI::CEnumEVENTUI() noexcept
+CEnumEVENTUI::CEnumEVENTUI(const event_type_row* begin, const event_type_row* end) noexcept
+    : begin_(begin), cur_(begin), end_(end)
 {
     module::lock();
 }
@@ -20,13 +21,10 @@ HRESULT CEnumEVENTUI::Create(const event_type_row* begin, const event_type_row* 
 {
     if (!ppEnum)
         return E_POINTER;
-    auto* object = new (std::nothrow) CEnumEVENTUI;
-    if (!object)
+    com_ptr<CEnumEVENTUI> made = make_com<CEnumEVENTUI>(begin, end);
+    if (!made)
         return E_OUTOFMEMORY;
-    object->begin_ = object->cur_ = begin;
-    object->end_ = end;
-    object->AddRef();
-    *ppEnum = object;
+    *ppEnum = made.detach();
     return S_OK;
 }
 
