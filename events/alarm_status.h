@@ -4,7 +4,8 @@
 
 #include <cstdint>
 
-#include "core/renderer.h"
+#include "core/wide.h"
+#include "events/colours.h"
 
 struct alarm_status_row {
     std::uint8_t value;

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "core/guid.h"
-#include "devices/data_changed_events.h"
-#include "devices/device_parameters_event.h"
+#include "events/data_changed_events.h"
+#include "events/device_parameters_event.h"
 #include "events/alarm_events.h"
 #include "events/command_events.h"
 #include "events/config_events.h"

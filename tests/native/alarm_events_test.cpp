@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/renderer.h"
 #include "devices/device_types.h"
 #include "events/alarm_events.h"
 #include "events/alarm_state.h"

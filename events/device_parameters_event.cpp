@@ -1,4 +1,4 @@
-#include "devices/device_parameters_event.h"
+#include "events/device_parameters_event.h"
 
 #include <optional>
 #include <stdexcept>
