@@ -96,15 +96,4 @@ TEST(UnitAlarmRecord, RefusesMasksLongerThanItsBuffers)
     }
 }
 
-TEST(AlarmState, IndexingPastTheTableIsAnInvalidOption)
-{
-    EXPECT_STREQ(render::alarm_state_option(2).narrow, "Reinitalize");
-    try {
-        render::alarm_state_option(4);
-        FAIL() << "no error";
-    } catch (const data::invalid_option& e) {
-        EXPECT_STREQ(e.what(), "invalid option: render::alarm_state");
-    }
-}
-
 } // namespace
