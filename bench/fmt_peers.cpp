@@ -61,7 +61,7 @@ std::size_t unit_reset(std::span<const std::uint8_t> payload, wchar_t* out, std:
     const bool blind = in.read_u32() != 0;
     const bool failed = in.read_i32() != 0;
     return finish(out, capacity,
-                  fmt::format_to_n(out, capacity - 1, L"{} reset command {}{}", ascii{reset_type_names[type]},
+                  fmt::format_to_n(out, capacity - 1, L"{} reset command {}{}", ascii{option_text(reset_type_names[type])},
                                    blind ? L" in blind mode " : L"", failed ? L"failed." : L"succeeded."));
 }
 
@@ -74,7 +74,7 @@ std::size_t subnet_reset(std::span<const std::uint8_t> payload, wchar_t* out, st
     const bool failed = in.read_i32() != 0;
     return finish(out, capacity,
                   fmt::format_to_n(out, capacity - 1, L"{} Reset on subnet {}.{}.{}.{}:{}.{}.{}.{} {}",
-                                   ascii{reset_type_names[type]}, address.a, address.b, address.c, address.d, mask.a,
+                                   ascii{option_text(reset_type_names[type])}, address.a, address.b, address.c, address.d, mask.a,
                                    mask.b, mask.c, mask.d, failed ? L"failed." : L"succeeded."));
 }
 

@@ -310,7 +310,7 @@ int run_workload(const std::string& form, const std::string& name, long calls)
 
 int main(int argc, char** argv)
 {
-    samples::register_alarm_types(&RegisterAlarmTypeMap);
+    samples::register_alarm_types(&alarm_types::register_records);
     all_samples = samples::load_folder(KORPS_SAMPLES_DIR);
     renderings = bench::successful_renderings(all_samples);
     if (argc == 5 && std::string(argv[1]) == "--workload")

@@ -98,21 +98,6 @@ public:
 
 } // namespace text
 
-namespace data {
-
-class invalid_option : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-template <class Option>
-class invalid_option_t : public invalid_option {
-public:
-    invalid_option_t() : invalid_option("invalid option: " + std::string(type_name<Option>())) {}
-};
-
-} // namespace data
-
 // The older error family: messages are built from pieces on demand, into a
 // wide buffer of the caller's size, truncating rather than refusing.
 class old_error : public std::exception {

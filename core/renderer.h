@@ -27,18 +27,6 @@ using EventTextRenderer = HRESULT(KORPS_STDCALL*)(void* context, std::uint32_t p
 
 namespace render {
 
-// Display colours, as 0x00BBGGRR.
-using colour = std::uint32_t;
-namespace colours {
-inline constexpr colour green = 0x00FF00;       // success, unit OK
-inline constexpr colour red = 0x0000FF;         // alarm or failure
-inline constexpr colour yellow = 0x00FFFF;      // latched
-inline constexpr colour grey = 0xC0C0C0;        // unknown or disconnected
-inline constexpr colour command = 0x80FFFF;     // a command was carried out
-inline constexpr colour inventory = 0xFFFF80;   // inventory changes, properties saved
-inline constexpr colour failure = 0x0080FF;     // failure notices
-} // namespace colours
-
 // Payload size rules, checked before anything is written. A payload that
 // breaks its event's rule is refused with E_UNEXPECTED and no error object.
 struct any_size {

@@ -1,69 +1,89 @@
-// One changed parameter, as a phrase of the one-line text or as a
-// `parameter` element of the XML fragment.
+// The changed parameters of one rendering, as the phrases of the one-line
+// text or as `parameter` elements of the XML fragment: one list object per
+// rendering, one `add` per changed parameter.
 //
 // Whether an item appears is decided by the record's presence bits alone:
 // the values are never compared, so a field the event marks is shown even
-// when its old and new values are equal. `first` is shared by every item of
-// one rendering; it is true until the first item has been written, which is
-// what keeps the ", " separator off the front of the text.
+// when its old and new values are equal.
 #pragma once
 
 #include <string_view>
 
 #include "core/event_output.h"
 
-namespace change_item_detail {
+// The two names of a parameter: the key is the XML `id`, the display name
+// what the text shows.
+struct change_name {
+    wstring_view key;
+    wstring_view display;
+};
 
-template <text_sink Out, class Value, class Format>
-void write_value(Out& out, bool present, wstring_view before, const Value& value, const Format& format,
-                 wstring_view after)
-{
-    if (!present)
-        return;
-    out << before;
-    format(out, value);
-    out << after;
-}
+// "Rx Modulation was changed from QPSK to 8PSK, Rx Frequency was changed to
+// 70 MHz": " from ..." and " to ..." only for the values present. The list
+// keeps ", " off the front of its first item.
+class text_change_list {
+public:
+    explicit text_change_list(ui::event::text_output& out) noexcept : out_(out) {}
 
-} // namespace change_item_detail
+    template <class Value, class Format>
+    void add(const change_name& name, bool has_old, const Value& old_value, bool has_new, const Value& new_value,
+             const Format& format)
+    {
+        if (!has_old && !has_new)
+            return;
+        if (!first_)
+            out_ << ", "_w;
+        out_ << name.display << " was changed"_w;
+        write_value(has_old, " from "_w, old_value, format);
+        write_value(has_new, " to "_w, new_value, format);
+        first_ = false;
+    }
 
-// "Rx Modulation was changed from QPSK to 8PSK", led by ", " unless it is
-// the first item; " from ..." and " to ..." only for the values present.
-template <text_sink Out, class Value, class Format>
-void write_change_text(bool& first, Out& out, wstring_view display, bool has_old, const Value& old_value,
-                       bool has_new, const Value& new_value, const Format& format)
-{
-    if (!has_old && !has_new)
-        return;
-    if (!first)
-        out << ", "_w;
-    out << display << " was changed"_w;
-    change_item_detail::write_value(out, has_old, " from "_w, old_value, format, ""_w);
-    change_item_detail::write_value(out, has_new, " to "_w, new_value, format, ""_w);
-    first = false;
-}
+private:
+    template <class Value, class Format>
+    void write_value(bool present, wstring_view before, const Value& value, const Format& format)
+    {
+        if (!present)
+            return;
+        out_ << before;
+        format(out_, value);
+    }
+
+    ui::event::text_output& out_;
+    bool first_ = true;
+};
 
 // <parameter id="RxModulation">, a tab-led <old> and <new> line for the values
 // present, </parameter>; every line ends in a line feed. A start tag left open
-// by the caller is closed before the item.
-template <class Value, class Format>
-void write_change_xml(bool& first, ui::event::xml_output& out, wstring_view key, bool has_old,
-                      const Value& old_value, bool has_new, const Value& new_value, const Format& format)
-{
-    if (!has_old && !has_new)
-        return;
-    out.open_element("parameter"_w);
-    out.attribute("id"_w, key);
-    out << "\n"_w;
-    const auto value_line = [&](bool present, wstring_view name, const Value& value) {
+// by the caller is closed before the first item.
+class xml_change_list {
+public:
+    explicit xml_change_list(ui::event::xml_output& out) noexcept : out_(out) {}
+
+    template <class Value, class Format>
+    void add(const change_name& name, bool has_old, const Value& old_value, bool has_new, const Value& new_value,
+             const Format& format)
+    {
+        if (!has_old && !has_new)
+            return;
+        out_.open_element("parameter"_w);
+        out_.attribute("id"_w, name.key);
+        out_ << "\n"_w;
+        write_value(has_old, "old"_w, old_value, format);
+        write_value(has_new, "new"_w, new_value, format);
+        out_.close_element();
+        out_ << "\n"_w;
+    }
+
+private:
+    template <class Value, class Format>
+    void write_value(bool present, wstring_view element, const Value& value, const Format& format)
+    {
         if (!present)
             return;
-        out << "\t"_w;
-        out.element_with(name, [&] { format(out, value); }, "\n"_w);
-    };
-    value_line(has_old, "old"_w, old_value);
-    value_line(has_new, "new"_w, new_value);
-    out.close_element();
-    out << "\n"_w;
-    first = false;
-}
+        out_ << "\t"_w;
+        out_.element_with(element, [&] { format(out_, value); }, "\n"_w);
+    }
+
+    ui::event::xml_output& out_;
+};

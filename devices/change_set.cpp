@@ -1,5 +1,6 @@
 #include "devices/change_set.h"
 
+#include <functional>
 #include <memory>
 
 #include "core/mask_walk.h"
@@ -33,39 +34,64 @@ void write_wide_text(payload_cursor& in, ui::event::xml_output& out)
     write_utf16le(out, std::span<const std::uint8_t>(units, bytes.size()));
 }
 
-void write_value(payload_cursor& in, ui::event::xml_output& out, body kind)
+template <auto Read>
+void write_decimal(payload_cursor& in, ui::event::xml_output& out)
 {
-    switch (kind) {
-    case body::wide_text:
-        return write_wide_text(in, out);
-    case body::byte:
-        out << decimal(in.read_u8());
-        return;
-    case body::unsigned32:
-        out << decimal(in.read_u32());
-        return;
-    case body::signed32:
-        out << decimal(in.read_i32());
-        return;
-    case body::ipv4:
-        out << dotted_ipv4{in.read_u32()};
-        return;
-    case body::routes_a:
-    case body::routes_b:
-        break;
-    }
-    throw not_expected();
+    out << decimal(std::invoke(Read, in));
 }
+
+void write_ipv4(payload_cursor& in, ui::event::xml_output& out)
+{
+    out << dotted_ipv4{in.read_u32()};
+}
+
+// --- What each body kind writes inside its `changed` element -----------------
+
+using body_writer = void (*)(payload_cursor&, ui::event::xml_output&);
+
+// An old and a new value, each on its line.
+template <body_writer WriteValue>
+void old_and_new_values(payload_cursor& in, ui::event::xml_output& out)
+{
+    old_and_new(out, [&] { WriteValue(in, out); });
+}
+
+// The three lists of a route table, with no old and new value.
+template <const auto& Layout>
+void route_lists(payload_cursor& in, ui::event::xml_output& out)
+{
+    routes::write_route_lists(in, out, Layout);
+}
+
+struct body_row {
+    body kind;
+    body_writer write;
+};
+
+// One row per kind, in the order of `body`.
+constexpr body_row bodies[] = {
+    {body::wide_text, old_and_new_values<write_wide_text>},
+    {body::byte, old_and_new_values<write_decimal<&payload_cursor::read_u8>>},
+    {body::unsigned32, old_and_new_values<write_decimal<&payload_cursor::read_u32>>},
+    {body::signed32, old_and_new_values<write_decimal<&payload_cursor::read_i32>>},
+    {body::ipv4, old_and_new_values<write_ipv4>},
+    {body::routes_a, route_lists<routes::layout_a>},
+    {body::routes_b, route_lists<routes::layout_b>},
+};
+
+consteval bool one_row_per_body()
+{
+    for (std::size_t i = 0; i < std::size(bodies); ++i)
+        if (bodies[i].kind != static_cast<body>(i))
+            return false;
+    return std::size(bodies) == static_cast<std::size_t>(body::routes_b) + 1;
+}
+static_assert(one_row_per_body(), "each body kind has its row, at its own position");
 
 void write_section(payload_cursor& in, ui::event::xml_output& out, const section& s)
 {
     open_line(out, "changed"_w, "field"_w, s.field);
-    if (s.kind == body::routes_a)
-        routes::write_route_lists(in, out, routes::layout_a);
-    else if (s.kind == body::routes_b)
-        routes::write_route_lists(in, out, routes::layout_b);
-    else
-        old_and_new(out, [&] { write_value(in, out, s.kind); });
+    bodies[static_cast<std::size_t>(s.kind)].write(in, out);
     close_line(out);
 }
 
@@ -74,7 +100,7 @@ void write_section(payload_cursor& in, ui::event::xml_output& out, const section
 void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set)
 {
     const std::uint64_t mask = set.mask_bytes == 2 ? in.read_u16() : in.read_u8();
-    for_each_set_bit(mask, set.sections, [&](const section& s) { write_section(in, out, s); });
+    for_each_set_bit(mask, set.sections, [&](const section& s, std::size_t) { write_section(in, out, s); });
 }
 
 } // namespace change_sets

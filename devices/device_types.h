@@ -10,75 +10,55 @@
 
 #include "core/option_entry.h"
 
+// Every known device type, once: its name in code, its key, its code. Rows
+// stand in the order the management server has always listed them; lookup
+// takes the first match, so the order is kept as it is.
+#define KORPS_DEVICE_TYPES(row)      \
+    row(none, "none", 0)             \
+    row(fcn1l, "fcn1l", 52)          \
+    row(fcn1i, "fcn1i", 53)          \
+    row(fcn2l, "fcn2l", 180)         \
+    row(fcn2i, "fcn2i", 181)         \
+    row(fcn3i, "fcn3i", 54)          \
+    row(fcn3l, "fcn3l", 55)          \
+    row(fcn4i, "fcn4i", 57)          \
+    row(fcn4l, "fcn4l", 56)          \
+    row(fcn1al, "fcn1al", 88)        \
+    row(fcn3al, "fcn3al", 94)        \
+    row(osprey, "osprey", 58)        \
+    row(hrn1, "hrn1", 59)            \
+    row(hrn2, "hrn2", 89)            \
+    row(hrn3, "hrn3", 60)            \
+    row(hrn4, "hrn4", 91)            \
+    row(hrn0, "hrn0", 61)            \
+    row(kt1, "kt1", 97)              \
+    row(kts, "kts", 99)              \
+    row(ktm, "ktm", 100)             \
+    row(kt4, "kt4", 102)             \
+    row(kt8, "kt8", 103)             \
+    row(kt16, "kt16", 104)           \
+    row(kt32, "kt32", 105)           \
+    row(kt64, "kt64", 106)           \
+    row(kt_pro, "kt-pro", 109)       \
+    row(kt_plus, "kt-plus", 118)     \
+    row(kt_mini, "kt-mini", 120)     \
+    row(gull, "gull", 128)
+
 namespace device_types {
 
 // The codes by name, as the type byte of an event carries them.
 enum code : std::uint8_t {
-    none = 0,
-    fcn1l = 52,
-    fcn1i = 53,
-    fcn2l = 180,
-    fcn2i = 181,
-    fcn3i = 54,
-    fcn3l = 55,
-    fcn4i = 57,
-    fcn4l = 56,
-    fcn1al = 88,
-    fcn3al = 94,
-    osprey = 58,
-    hrn1 = 59,
-    hrn2 = 89,
-    hrn3 = 60,
-    hrn4 = 91,
-    hrn0 = 61,
-    kt1 = 97,
-    kts = 99,
-    ktm = 100,
-    kt4 = 102,
-    kt8 = 103,
-    kt16 = 104,
-    kt32 = 105,
-    kt64 = 106,
-    kt_pro = 109,
-    kt_plus = 118,
-    kt_mini = 120,
-    gull = 128,
+#define KORPS_DEVICE_TYPE_CODE(name, key, value) name = value,
+    KORPS_DEVICE_TYPES(KORPS_DEVICE_TYPE_CODE)
+#undef KORPS_DEVICE_TYPE_CODE
 };
 
 } // namespace device_types
 
-// Rows stand in the order the management server has always listed them;
-// lookup takes the first match, so the order is kept as it is.
 inline constexpr OptionEntry DeviceTypeKeys[] = {
-    OPTION("none", device_types::none),
-    OPTION("fcn1l", device_types::fcn1l),
-    OPTION("fcn1i", device_types::fcn1i),
-    OPTION("fcn2l", device_types::fcn2l),
-    OPTION("fcn2i", device_types::fcn2i),
-    OPTION("fcn3i", device_types::fcn3i),
-    OPTION("fcn3l", device_types::fcn3l),
-    OPTION("fcn4i", device_types::fcn4i),
-    OPTION("fcn4l", device_types::fcn4l),
-    OPTION("fcn1al", device_types::fcn1al),
-    OPTION("fcn3al", device_types::fcn3al),
-    OPTION("osprey", device_types::osprey),
-    OPTION("hrn1", device_types::hrn1),
-    OPTION("hrn2", device_types::hrn2),
-    OPTION("hrn3", device_types::hrn3),
-    OPTION("hrn4", device_types::hrn4),
-    OPTION("hrn0", device_types::hrn0),
-    OPTION("kt1", device_types::kt1),
-    OPTION("kts", device_types::kts),
-    OPTION("ktm", device_types::ktm),
-    OPTION("kt4", device_types::kt4),
-    OPTION("kt8", device_types::kt8),
-    OPTION("kt16", device_types::kt16),
-    OPTION("kt32", device_types::kt32),
-    OPTION("kt64", device_types::kt64),
-    OPTION("kt-pro", device_types::kt_pro),
-    OPTION("kt-plus", device_types::kt_plus),
-    OPTION("kt-mini", device_types::kt_mini),
-    OPTION("gull", device_types::gull),
+#define KORPS_DEVICE_TYPE_KEY(name, key, value) OPTION(key, device_types::name),
+    KORPS_DEVICE_TYPES(KORPS_DEVICE_TYPE_KEY)
+#undef KORPS_DEVICE_TYPE_KEY
 };
 static_assert(std::size(DeviceTypeKeys) == 29, "one row per known device type");
 static_assert(values_unique(DeviceTypeKeys), "one row per code");

@@ -1,9 +1,8 @@
 #include "devices/family_a_record.h"
 
-#include <type_traits>
+#include <functional>
 
 #include "core/mask_walk.h"
-#include "devices/change_item.h"
 #include "devices/value_formats.h"
 
 namespace family_a {
@@ -14,19 +13,121 @@ const section_groups& groups_of(record_kind record) noexcept
     return record_groups[record.which][static_cast<std::size_t>(record.part)];
 }
 
-// Bytes of each fixed-width kind on the wire; texts carry their own count.
-constexpr std::size_t fixed_width(value kind) noexcept
+// One field of the record, and where its old and new values lie.
+struct item {
+    const field& f;
+    const demod_value_tables& tables;
+    payload_cursor& old_in;
+    bool has_old;
+    payload_cursor& new_in;
+    bool has_new;
+};
+
+// Reads the values the two copies hold with `read` and adds the item to the
+// list, which shows the name of its form.
+template <class List, class Read, class Format>
+void add_item(List& list, const item& it, Read read, const Format& format)
 {
-    switch (kind) {
-    case value::temperature:
-    case value::option:
-        return 1;
-    case value::mac:
-        return 8;
-    default:
-        return 4;
-    }
+    decltype(std::invoke(read, it.old_in)) old_value{}, new_value{};
+    if (it.has_old)
+        old_value = std::invoke(read, it.old_in);
+    if (it.has_new)
+        new_value = std::invoke(read, it.new_in);
+    list.add({it.f.key, it.f.display}, it.has_old, old_value, it.has_new, new_value, format);
 }
+
+// --- How each kind of value is read and shown --------------------------------
+//
+// A kind skips one value (to find where the new copy starts) and adds an
+// item: both read the value with the same reader, so the two cannot disagree
+// on its width.
+
+template <auto Read, class Format>
+struct plain_kind {
+    static void skip(payload_cursor& in) { std::invoke(Read, in); }
+
+    template <class List>
+    static void add(List& list, const item& it)
+    {
+        add_item(list, it, Read, Format{});
+    }
+};
+
+// A coded byte through the layout's value table for the field.
+struct option_kind {
+    static void skip(payload_cursor& in) { in.read_u8(); }
+
+    template <class List>
+    static void add(List& list, const item& it)
+    {
+        add_item(list, it, &payload_cursor::read_u8, formats::option{it.tables.*it.f.table});
+    }
+};
+
+// A 32-bit reading through the field's scale, signed where the field says so.
+struct scaled_kind {
+    static void skip(payload_cursor& in) { in.read_u32(); }
+
+    template <class List>
+    static void add(List& list, const item& it)
+    {
+        if (it.f.is_signed)
+            add_item(list, it, &payload_cursor::read_i32, formats::scaled{it.f.scale});
+        else
+            add_item(list, it, &payload_cursor::read_u32, formats::scaled{it.f.scale});
+    }
+};
+
+struct value_kind {
+    value kind;
+    void (*skip)(payload_cursor&);
+    void (*add_text)(text_change_list&, const item&);
+    void (*add_xml)(xml_change_list&, const item&);
+};
+
+template <class Kind>
+constexpr value_kind handled_as(value kind) noexcept
+{
+    return {kind, Kind::skip, Kind::template add<text_change_list>, Kind::template add<xml_change_list>};
+}
+
+// One row per kind, in the order of `value`.
+constexpr value_kind value_kinds[] = {
+    handled_as<plain_kind<&payload_cursor::read_wstring, formats::text>>(value::text),
+    handled_as<plain_kind<&payload_cursor::read_u32, formats::integer>>(value::number),
+    handled_as<plain_kind<&payload_cursor::read_u8, formats::temperature>>(value::temperature),
+    handled_as<option_kind>(value::option),
+    handled_as<scaled_kind>(value::scaled),
+    handled_as<plain_kind<&payload_cursor::read_u32, formats::time_stamp>>(value::time_stamp),
+    handled_as<plain_kind<&payload_cursor::read_u32, formats::address>>(value::address),
+    handled_as<plain_kind<&payload_cursor::read_u64, formats::mac_address>>(value::mac),
+};
+
+consteval bool one_row_per_kind()
+{
+    for (std::size_t i = 0; i < std::size(value_kinds); ++i)
+        if (value_kinds[i].kind != static_cast<value>(i))
+            return false;
+    return std::size(value_kinds) == static_cast<std::size_t>(value::mac) + 1;
+}
+static_assert(one_row_per_kind(), "each kind of value has its row, at its own position");
+
+const value_kind& kind_of(const field& f) noexcept
+{
+    return value_kinds[static_cast<std::size_t>(f.kind)];
+}
+
+void add(text_change_list& list, const item& it)
+{
+    kind_of(it.f).add_text(list, it);
+}
+
+void add(xml_change_list& list, const item& it)
+{
+    kind_of(it.f).add_xml(list, it);
+}
+
+// --- The walk -----------------------------------------------------------------
 
 // Moves `in` past one copy of the record, to where the next copy starts.
 void skip_copy(payload_cursor& in, record_kind record)
@@ -34,76 +135,13 @@ void skip_copy(payload_cursor& in, record_kind record)
     for (const group& g : groups_of(record)) {
         if (g.count == 0)
             continue;
-        for_each_set_bit(in.read_u8(), g.members(), [&](std::uint8_t index) {
-            if (fields[index].kind == value::text)
-                in.read_wstring();
-            else
-                in.take(fixed_width(fields[index].kind));
-        });
+        for_each_set_bit(in.read_u8(), g.members(),
+                         [&](std::uint8_t index, std::size_t) { kind_of(fields[index]).skip(in); });
     }
 }
 
-// Reads the values the two copies hold and writes the item in the form of
-// `Out`: the display name in the text, the key in XML.
-template <class Out>
-struct item_writer {
-    bool& first;
-    Out& out;
-    const field& f;
-    payload_cursor& old_in;
-    bool has_old;
-    payload_cursor& new_in;
-    bool has_new;
-
-    template <class Read, class Format>
-    void operator()(Read read, const Format& format) const
-    {
-        decltype(read(old_in)) old_value{}, new_value{};
-        if (has_old)
-            old_value = read(old_in);
-        if (has_new)
-            new_value = read(new_in);
-        if constexpr (std::is_same_v<Out, ui::event::text_output>)
-            write_change_text(first, out, f.display, has_old, old_value, has_new, new_value, format);
-        else
-            write_change_xml(first, out, f.key, has_old, old_value, has_new, new_value, format);
-    }
-};
-
-constexpr auto read_u8 = [](payload_cursor& in) { return in.read_u8(); };
-constexpr auto read_u32 = [](payload_cursor& in) { return in.read_u32(); };
-constexpr auto read_i32 = [](payload_cursor& in) { return in.read_i32(); };
-constexpr auto read_u64 = [](payload_cursor& in) { return in.read_u64(); };
-constexpr auto read_text = [](payload_cursor& in) { return in.read_wstring(); };
-
-template <class Out>
-void write_item(const item_writer<Out>& write, const demod_value_tables& tables)
-{
-    const field& f = write.f;
-    switch (f.kind) {
-    case value::text:
-        return write(read_text, formats::text{});
-    case value::number:
-        return write(read_u32, formats::integer{});
-    case value::temperature:
-        return write(read_u8, formats::temperature{});
-    case value::option:
-        return write(read_u8, formats::option{tables.*f.table});
-    case value::scaled:
-        if (f.is_signed)
-            return write(read_i32, formats::scaled{f.scale});
-        return write(read_u32, formats::scaled{f.scale});
-    case value::time_stamp:
-        return write(read_u32, formats::time_stamp{});
-    case value::address:
-        return write(read_u32, formats::address{});
-    case value::mac:
-        return write(read_u64, formats::mac_address{});
-    }
-}
-
-template <class Out>
-void walk(payload_cursor& in, Out& out, record_kind record, bool& first)
+template <class List>
+void walk(payload_cursor& in, List& list, record_kind record)
 {
     // The new copy starts where the old one ends; both are then read side by
     // side, group by group.
@@ -116,26 +154,24 @@ void walk(payload_cursor& in, Out& out, record_kind record, bool& first)
             continue;
         const std::uint8_t old_present = old_in.read_u8();
         const std::uint8_t new_present = new_in.read_u8();
-        const std::span<const std::uint8_t> members = g.members();
-        for_each_set_bit(old_present | new_present, members, [&](const std::uint8_t& index) {
-            const auto bit = static_cast<unsigned>(&index - members.data());
+        for_each_set_bit(old_present | new_present, g.members(), [&](std::uint8_t index, std::size_t bit) {
             const bool has_old = (old_present >> bit & 1) != 0;
             const bool has_new = (new_present >> bit & 1) != 0;
-            write_item(item_writer<Out>{first, out, fields[index], old_in, has_old, new_in, has_new}, tables);
+            add(list, item{fields[index], tables, old_in, has_old, new_in, has_new});
         });
     }
 }
 
 } // namespace
 
-void write_changes(payload_cursor& in, ui::event::text_output& out, record_kind record, bool& first)
+void write_changes(payload_cursor& in, text_change_list& list, record_kind record)
 {
-    walk(in, out, record, first);
+    walk(in, list, record);
 }
 
-void write_changes(payload_cursor& in, ui::event::xml_output& out, record_kind record, bool& first)
+void write_changes(payload_cursor& in, xml_change_list& list, record_kind record)
 {
-    walk(in, out, record, first);
+    walk(in, list, record);
 }
 
 } // namespace family_a

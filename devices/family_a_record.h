@@ -4,6 +4,7 @@
 
 #include "core/event_output.h"
 #include "core/payload_cursor.h"
+#include "devices/change_item.h"
 #include "devices/family_a_fields.h"
 
 namespace family_a {
@@ -14,9 +15,9 @@ struct record_kind {
     section part;
 };
 
-// `in` stands at the old copy, which the new copy follows. `first` is the
-// first-item flag of the rendering.
-void write_changes(payload_cursor& in, ui::event::text_output& out, record_kind record, bool& first);
-void write_changes(payload_cursor& in, ui::event::xml_output& out, record_kind record, bool& first);
+// Adds one item to `list` for every field either copy marks present. `in`
+// stands at the old copy, which the new copy follows.
+void write_changes(payload_cursor& in, text_change_list& list, record_kind record);
+void write_changes(payload_cursor& in, xml_change_list& list, record_kind record);
 
 } // namespace family_a

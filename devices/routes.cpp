@@ -62,7 +62,7 @@ void write_modified_entries(payload_cursor& in, ui::event::xml_output& out, std:
         open_line(out, "modified-element"_w);
         value_line(out, "key"_w, "field"_w, "Network"_w, [&] { out << dotted_ipv4{in.read_u32()}; });
         value_line(out, "key"_w, "field"_w, "Mask"_w, [&] { out << dotted_ipv4{in.read_u32()}; });
-        for_each_set_bit(in.read_u16(), layout, [&](const field& f) {
+        for_each_set_bit(in.read_u16(), layout, [&](const field& f, std::size_t) {
             open_line(out, "changed"_w, "field"_w, f.name);
             change_sets::old_and_new(out, [&] { write_value(in, out, f); });
             close_line(out);

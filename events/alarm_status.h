@@ -4,7 +4,9 @@
 
 #include <cstdint>
 
-#include "core/renderer.h"
+#include "core/option_entry.h"
+#include "core/wide.h"
+#include "events/colours.h"
 
 struct alarm_status_row {
     std::uint8_t value;
@@ -18,14 +20,12 @@ inline constexpr alarm_status_row alarm_statuses[] = {
     {2, "Latched"_w, render::colours::yellow},
     {3, "Alarmed"_w, render::colours::red},
 };
+static_assert(values_unique(alarm_statuses));
 
 // What a status byte outside the table shows as.
 inline constexpr alarm_status_row bad_alarm_status = {0, "<bad value>"_w, render::colours::grey};
 
 constexpr const alarm_status_row& alarm_status(std::uint8_t value) noexcept
 {
-    for (const alarm_status_row& row : alarm_statuses)
-        if (row.value == value)
-            return row;
-    return bad_alarm_status;
+    return row_or(alarm_statuses, value, bad_alarm_status);
 }

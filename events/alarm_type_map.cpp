@@ -35,13 +35,11 @@ const char* name_of(const GUID& id)
     return found->second;
 }
 
-} // namespace alarm_types
-
-extern "C" int KORPS_CDECL RegisterAlarmTypeMap(int count, const alarm_type_record* records)
+int register_records(int count, const alarm_type_record* records) noexcept
 {
     if (count <= 0 || !records)
         return 0;
-    auto& names = alarm_types::the_map();
+    map& names = the_map();
     try {
         for (int i = 0; i < count; ++i)
             names[records[i].id] = records[i].name;
@@ -52,3 +50,5 @@ extern "C" int KORPS_CDECL RegisterAlarmTypeMap(int count, const alarm_type_reco
     }
     return 0;
 }
+
+} // namespace alarm_types

@@ -21,12 +21,15 @@ static_assert(sizeof(alarm_type_record) == 24, "an alarm type crosses the 64-bit
 static_assert(sizeof(alarm_type_record) == 20, "an alarm type crosses the 32-bit module boundary as 20 bytes");
 #endif
 
+namespace alarm_types {
+
 // Registers `count` records in array order: a new identifier is added, a known
 // one takes the record's name, so the last record of an identifier wins.
-// Nothing happens for a count of 0 or less or for a null array. Always 0.
-extern "C" int KORPS_CDECL RegisterAlarmTypeMap(int count, const alarm_type_record* records);
-
-namespace alarm_types {
+// Nothing happens for a count of 0 or less or for a null array. Always 0: the
+// contract of the RegisterAlarmTypeMap export (module/exports.cpp), which
+// hands its arguments straight here; the module's own tools register the same
+// way a host does.
+int register_records(int count, const alarm_type_record* records) noexcept;
 
 // The map's order: the 16 identifier bytes as they lie in memory, compared
 // as unsigned bytes.

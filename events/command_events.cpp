@@ -1,5 +1,6 @@
 #include "events/command_events.h"
 
+#include "core/option_entry.h"
 #include "core/text_format.h"
 #include "core/utf16le.h"
 #include "events/command_text.h"
@@ -9,12 +10,17 @@ namespace {
 
 using render::colours::command;
 
-constexpr wstring_view registration_sources[] = {"system"_w, "unit"_w, "user"_w};
+constexpr OptionEntry registration_sources[] = {
+    OPTION("system", 0),
+    OPTION("unit", 1),
+    OPTION("user", 2),
+};
+static_assert(values_are_positions(registration_sources));
 
 wstring_view registration_source(std::uint8_t code) noexcept
 {
-    const wstring_view* name = coded_name(registration_sources, code);
-    return name ? *name : "unknown"_w;
+    const OptionEntry* name = find_row(registration_sources, code);
+    return name ? option_text(*name) : "unknown"_w;
 }
 
 // Unit and subnet resets word their type differently in each form; the

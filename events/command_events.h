@@ -1,7 +1,9 @@
 // Command result events: what became of a command sent to a unit or a subnet.
 #pragma once
 
-#include "core/renderer.h"
+#include "core/event_output.h"
+#include "core/payload_cursor.h"
+#include "events/colours.h"
 
 void unit_registration_xml(payload_cursor& in, ui::event::xml_output& out);
 render::colour unit_registration_text(payload_cursor& in, ui::event::text_output& out);

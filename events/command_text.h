@@ -7,21 +7,12 @@
 #include <functional>
 #include <string_view>
 #include <type_traits>
-#include <utility>
 
+#include "core/option_entry.h"
 #include "core/output_stream.h"
 #include "core/payload_cursor.h"
 #include "core/text_format.h"
 #include "events/event_text.h"
-
-// The name a coded field selects from a table counted from zero; null for a
-// code outside the table, negative codes included.
-template <std::size_t N, class Code>
-constexpr const wstring_view* coded_name(const wstring_view (&names)[N], Code code) noexcept
-{
-    return std::cmp_greater_equal(code, 0) && std::cmp_less(code, N) ? &names[static_cast<std::size_t>(code)]
-                                                                       : nullptr;
-}
 
 // --- Result codes -----------------------------------------------------------
 
@@ -71,7 +62,12 @@ inline constexpr wstring_view failed_result_element_close = "\"</result>\n"_w;
 
 // --- Reset types ------------------------------------------------------------
 
-inline constexpr wstring_view reset_type_names[] = {"Hard"_w, "Soft"_w, "Firm"_w};
+inline constexpr OptionEntry reset_type_names[] = {
+    OPTION("Hard", 0),
+    OPTION("Soft", 1),
+    OPTION("Firm", 2),
+};
+static_assert(values_are_positions(reset_type_names));
 
 // How one form words a reset type: a known type as its name followed by
 // `suffix`; any other as its code in decimal between two pieces.
@@ -89,8 +85,8 @@ struct reset_type {
 template <text_sink Out>
 Out& operator<<(Out& out, const reset_type& type)
 {
-    if (const wstring_view* name = coded_name(reset_type_names, type.code))
-        return out << *name << type.wording.suffix;
+    if (const OptionEntry* name = find_row(reset_type_names, type.code))
+        return out << option_text(*name) << type.wording.suffix;
     return out << type.wording.unknown_open << decimal(type.code) << type.wording.unknown_close;
 }
 

@@ -1,7 +1,9 @@
 // Configuration events: properties saved, parameter files, upgrades and unit flags.
 #pragma once
 
-#include "core/renderer.h"
+#include "core/event_output.h"
+#include "core/payload_cursor.h"
+#include "events/colours.h"
 
 void corvane_unit_properties_saved_xml(payload_cursor& in, ui::event::xml_output& out);
 render::colour corvane_unit_properties_saved_text(payload_cursor& in, ui::event::text_output& out);

@@ -1,7 +1,9 @@
 // Network inventory events: units and network IDs coming and going, network-wide commands.
 #pragma once
 
-#include "core/renderer.h"
+#include "core/event_output.h"
+#include "core/payload_cursor.h"
+#include "events/colours.h"
 
 void unit_destroy_xml(payload_cursor& in, ui::event::xml_output& out);
 render::colour unit_destroy_text(payload_cursor& in, ui::event::text_output& out);

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-#include "core/renderer.h"
 #include "core/text_format.h"
+#include "events/colours.h"
 
 struct unit_status {
     std::int32_t value;

@@ -64,7 +64,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         reinterpret_cast<std::uint8_t*>(&records[registered].id)[15] = id;
         at += 2 + length;
     }
-    RegisterAlarmTypeMap(static_cast<int>(registered), records);
+    alarm_types::register_records(static_cast<int>(registered), records);
 
     const event_type_row* row = find_event_type(alarm_status_changed);
     FUZZ_REQUIRE(row != nullptr);

@@ -27,7 +27,7 @@ namespace {
 // payloads reach their named path, not only "bad alarm id".
 const bool alarm_registered = [] {
     static const alarm_type_record link{GUID{}, "Link"};
-    RegisterAlarmTypeMap(1, &link);
+    alarm_types::register_records(1, &link);
     return true;
 }();
 

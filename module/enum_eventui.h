@@ -2,7 +2,7 @@
 // hands out, in the host's enumerator interface.
 #pragma once
 
-#include "core/event_type_row.h"
+#include "events/event_type_row.h"
 #include "core/ref_count.h"
 #include "include/korps/korps.h"
 

@@ -3,15 +3,15 @@
 #include <array>
 
 #include "core/guid.h"
-#ifdef _WIN32
-#include "module/published_event_ids.h"
-#endif
-#include "devices/data_changed_events.h"
-#include "devices/device_parameters_event.h"
 #include "events/alarm_events.h"
 #include "events/command_events.h"
 #include "events/config_events.h"
+#include "events/data_changed_events.h"
+#include "events/device_parameters_event.h"
 #include "events/inventory_events.h"
+#ifdef _WIN32
+#include "module/published_event_ids.h"
+#endif
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "core/event_type_row.h"
+#include "events/event_type_row.h"
 
 // All 40 rows; the table is constant and lives as long as the module.
 std::span<const event_type_row> event_types() noexcept;

@@ -26,6 +26,11 @@ HRESULT __stdcall UI_EnumEVENTUI(IEnumEVENTUI** ppEnum)
     return CEnumEVENTUI::Create(rows.data(), rows.data() + rows.size(), ppEnum);
 }
 
+int __cdecl RegisterAlarmTypeMap(int count, const alarm_type_record* records)
+{
+    return alarm_types::register_records(count, records);
+}
+
 HRESULT __stdcall DllGetClassObject(REFCLSID clsid, REFIID iid, void** ppv)
 {
     return CKORPSModule::Instance().GetClassObject(clsid, iid, ppv);

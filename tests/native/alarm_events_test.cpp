@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/renderer.h"
 #include "devices/device_types.h"
 #include "events/alarm_events.h"
 #include "events/alarm_state.h"
@@ -92,17 +93,6 @@ TEST(UnitAlarmRecord, RefusesMasksLongerThanItsBuffers)
         payload.resize(payload.size() + 2 * 0x100, 0);
         payload_cursor in(payload.data(), payload.size());
         EXPECT_THROW(unit_alarm_record::read(in), io::underflow) << length;
-    }
-}
-
-TEST(AlarmState, IndexingPastTheTableIsAnInvalidOption)
-{
-    EXPECT_STREQ(render::alarm_state_option(2).narrow, "Reinitalize");
-    try {
-        render::alarm_state_option(4);
-        FAIL() << "no error";
-    } catch (const data::invalid_option& e) {
-        EXPECT_STREQ(e.what(), "invalid option: render::alarm_state");
     }
 }
 

@@ -46,12 +46,12 @@ TEST(AlarmTypeMap, LaterRecordOfAnIdentifierWins)
 {
     const GUID carrier = fresh_id(), fan = fresh_id();
     const alarm_type_record once[] = {{carrier, "Carrier"}, {carrier, "Carrier Lost"}, {fan, "Fan"}};
-    EXPECT_EQ(RegisterAlarmTypeMap(3, once), 0);
+    EXPECT_EQ(alarm_types::register_records(3, once), 0);
     EXPECT_STREQ(alarm_types::name_of(carrier), "Carrier Lost");
     EXPECT_STREQ(alarm_types::name_of(fan), "Fan");
 
     const alarm_type_record again[] = {{fan, "Cooling Fan"}};
-    EXPECT_EQ(RegisterAlarmTypeMap(1, again), 0);
+    EXPECT_EQ(alarm_types::register_records(1, again), 0);
     EXPECT_STREQ(alarm_types::name_of(fan), "Cooling Fan");
     EXPECT_STREQ(alarm_types::name_of(carrier), "Carrier Lost");
 }
@@ -60,11 +60,11 @@ TEST(AlarmTypeMap, NothingToRegisterChangesNothing)
 {
     const GUID known = fresh_id(), unknown = fresh_id();
     const alarm_type_record first[] = {{known, "Link"}};
-    RegisterAlarmTypeMap(1, first);
+    alarm_types::register_records(1, first);
     const alarm_type_record ignored[] = {{known, "Replaced"}, {unknown, "New"}};
-    EXPECT_EQ(RegisterAlarmTypeMap(0, ignored), 0);
-    EXPECT_EQ(RegisterAlarmTypeMap(-1, ignored), 0);
-    EXPECT_EQ(RegisterAlarmTypeMap(2, nullptr), 0);
+    EXPECT_EQ(alarm_types::register_records(0, ignored), 0);
+    EXPECT_EQ(alarm_types::register_records(-1, ignored), 0);
+    EXPECT_EQ(alarm_types::register_records(2, nullptr), 0);
     EXPECT_STREQ(alarm_types::name_of(known), "Link");
     EXPECT_EQ(error_of(unknown), "bad alarm id");
 }
@@ -75,7 +75,7 @@ TEST(AlarmTypeMap, KeepsTheHostsTextNotACopy)
     char name[] = "Temperature";
     const GUID id = fresh_id();
     const alarm_type_record records[] = {{id, name}};
-    RegisterAlarmTypeMap(1, records);
+    alarm_types::register_records(1, records);
     EXPECT_EQ(alarm_types::name_of(id), name);
 }
 
@@ -84,12 +84,12 @@ TEST(AlarmTypeMap, UnknownOrNamelessIdentifierIsABadAlarmId)
     const GUID late = fresh_id(), nameless = fresh_id();
     EXPECT_EQ(error_of(late), "bad alarm id");
     const alarm_type_record without_name[] = {{nameless, nullptr}};
-    RegisterAlarmTypeMap(1, without_name);
+    alarm_types::register_records(1, without_name);
     EXPECT_EQ(error_of(nameless), "bad alarm id");
 
     // Registered late, found from then on.
     const alarm_type_record late_record[] = {{late, "Late"}};
-    RegisterAlarmTypeMap(1, late_record);
+    alarm_types::register_records(1, late_record);
     EXPECT_STREQ(alarm_types::name_of(late), "Late");
 }
 
@@ -104,7 +104,7 @@ TEST(AlarmTypeMap, EveryByteOfTheIdentifierCounts)
     reinterpret_cast<std::uint8_t*>(&base)[0] = 0x5A;
     for (std::size_t byte = 0; byte < 16; ++byte) {
         const alarm_type_record record[] = {{next_in(base, byte), names[byte].c_str()}};
-        RegisterAlarmTypeMap(1, record);
+        alarm_types::register_records(1, record);
     }
     for (std::size_t byte = 0; byte < 16; ++byte)
         EXPECT_EQ(alarm_types::name_of(next_in(base, byte)), names[byte]) << "byte " << byte;

@@ -1,5 +1,6 @@
-// Change items: which phrases and elements a run of fields produces, from
-// the presence bits alone, with the first-item flag shared across the run.
+// Change lists: which phrases and elements a run of fields produces, from
+// the presence bits alone, with the text list's separator after its first
+// written item only.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -23,71 +24,69 @@ struct field {
 const formats::option modulation{demod_options::modulation};
 
 struct run {
-    std::vector<field> fields;
-    bool first;             // the flag before the run
-    const char* text;       // the text items
-    const char* xml;        // the XML items
-    bool first_after;       // the flag after the run
+    std::vector<field> fields;   // added to one fresh list
+    const char* text;            // the text items
+    const char* xml;             // the XML items
 };
 
 const run runs[] = {
-    {{{"A", true, 1, true, 3}}, true, "A was changed from QPSK to 8PSK",
-     "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>8PSK</new>\n</parameter>\n", false},
-    {{{"A", false, 0, true, 3}}, true, "A was changed to 8PSK",
-     "<parameter id=\"A\">\n\t<new>8PSK</new>\n</parameter>\n", false},
-    {{{"A", true, 1, false, 0}}, true, "A was changed from QPSK",
-     "<parameter id=\"A\">\n\t<old>QPSK</old>\n</parameter>\n", false},
-    {{{"A", false, 1, false, 3}}, true, "", "", true},
-    {{{"A", false, 1, false, 3}}, false, "", "", false},
+    {{{"A", true, 1, true, 3}}, "A was changed from QPSK to 8PSK",
+     "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>8PSK</new>\n</parameter>\n"},
+    {{{"A", false, 0, true, 3}}, "A was changed to 8PSK", "<parameter id=\"A\">\n\t<new>8PSK</new>\n</parameter>\n"},
+    {{{"A", true, 1, false, 0}}, "A was changed from QPSK", "<parameter id=\"A\">\n\t<old>QPSK</old>\n</parameter>\n"},
+    {{{"A", false, 1, false, 3}}, "", ""},
     // Equal values are still shown when the event marks the field.
-    {{{"A", true, 1, true, 1}}, true, "A was changed from QPSK to QPSK",
-     "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>QPSK</new>\n</parameter>\n", false},
-    {{{"A", true, 1, true, 3}, {"B", true, 0, true, 200}}, true,
+    {{{"A", true, 1, true, 1}}, "A was changed from QPSK to QPSK",
+     "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>QPSK</new>\n</parameter>\n"},
+    {{{"A", true, 1, true, 3}, {"B", true, 0, true, 200}},
      "A was changed from QPSK to 8PSK, B was changed from BPSK to (invalid)",
      "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>8PSK</new>\n</parameter>\n"
-     "<parameter id=\"B\">\n\t<old>BPSK</old>\n\t<new>(invalid)</new>\n</parameter>\n",
-     false},
-    // A field present in neither copy neither writes nor clears the flag.
-    {{{"A", false, 0, false, 0}, {"B", false, 0, true, 2}}, true, "B was changed to OQPSK",
-     "<parameter id=\"B\">\n\t<new>OQPSK</new>\n</parameter>\n", false},
-    {{{"B", true, 2, false, 0}}, false, ", B was changed from OQPSK",
-     "<parameter id=\"B\">\n\t<old>OQPSK</old>\n</parameter>\n", false},
+     "<parameter id=\"B\">\n\t<old>BPSK</old>\n\t<new>(invalid)</new>\n</parameter>\n"},
+    // A field present in neither copy writes nothing and leaves the next
+    // item first.
+    {{{"A", false, 0, false, 0}, {"B", false, 0, true, 2}}, "B was changed to OQPSK",
+     "<parameter id=\"B\">\n\t<new>OQPSK</new>\n</parameter>\n"},
+    {{{"A", true, 1, false, 0}, {"B", false, 0, false, 0}, {"C", true, 2, false, 0}},
+     "A was changed from QPSK, C was changed from OQPSK",
+     "<parameter id=\"A\">\n\t<old>QPSK</old>\n</parameter>\n"
+     "<parameter id=\"C\">\n\t<old>OQPSK</old>\n</parameter>\n"},
 };
 
-TEST(ChangeItem, TextItemsRunOnOneLine)
+// Each form shows its own name: the text the display name, XML the key.
+TEST(ChangeList, TextItemsRunOnOneLine)
 {
     for (const run& r : runs) {
-        bool first = r.first;
-        const std::string text = written([&](auto& out) {
+        const std::string text = written([&](ui::event::text_output& out) {
+            text_change_list list(out);
             for (const field& f : r.fields)
-                write_change_text(first, out, wide(f.name), f.has_old, f.old_value, f.has_new, f.new_value, modulation);
+                list.add({wide(std::string("key-") + f.name), wide(f.name)}, f.has_old, f.old_value, f.has_new,
+                         f.new_value, modulation);
         });
         EXPECT_EQ(text, r.text);
-        EXPECT_EQ(first, r.first_after) << r.text;
     }
 }
 
-TEST(ChangeItem, XmlItemsAreParameterElements)
+TEST(ChangeList, XmlItemsAreParameterElements)
 {
     for (const run& r : runs) {
-        bool first = r.first;
-        const std::string xml = written<ui::event::xml_output>([&](auto& out) {
+        const std::string xml = written<ui::event::xml_output>([&](ui::event::xml_output& out) {
+            xml_change_list list(out);
             for (const field& f : r.fields)
-                write_change_xml(first, out, wide(f.name), f.has_old, f.old_value, f.has_new, f.new_value, modulation);
+                list.add({wide(f.name), wide(std::string("display-") + f.name)}, f.has_old, f.old_value, f.has_new,
+                         f.new_value, modulation);
         });
         EXPECT_EQ(xml, r.xml);
-        EXPECT_EQ(first, r.first_after) << r.xml;
     }
 }
 
-TEST(ChangeItem, XmlItemClosesAPendingStartTagAndTakesTheIndentation)
+TEST(ChangeList, XmlItemClosesAPendingStartTagAndTakesTheIndentation)
 {
-    bool first = true;
     const std::string xml = written<ui::event::xml_output>([&](ui::event::xml_output& out) {
         out.indent_by(3);
         out.open_element("changes"_w);
-        write_change_xml(first, out, "RxFrequency"_w, true, std::uint32_t(70000000), true, std::uint32_t(999999),
-                         formats::scaled{scales::frequency});
+        xml_change_list list(out);
+        list.add({"RxFrequency"_w, "Rx Frequency"_w}, true, std::uint32_t(70000000), true, std::uint32_t(999999),
+                 formats::scaled{scales::frequency});
     });
     EXPECT_EQ(xml, "   <changes>"
                    "<parameter id=\"RxFrequency\">\n"

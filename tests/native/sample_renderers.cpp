@@ -8,7 +8,7 @@ namespace sample_check {
 
 void register_alarm_types()
 {
-    samples::register_alarm_types(&RegisterAlarmTypeMap);
+    samples::register_alarm_types(&alarm_types::register_records);
 }
 
 renderers find_renderers(const GUID& id)

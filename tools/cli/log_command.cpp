@@ -105,7 +105,7 @@ void add_log(CLI::App& app, int& exit_code)
     log->add_flag("--check", check, "Compare each sample with its expected outputs");
     log->add_option("--color", colour, "Texts in their display colour")->check(CLI::IsMember({"auto", "always", "never"}));
     log->callback([&exit_code] {
-        samples::register_alarm_types(&RegisterAlarmTypeMap);
+        samples::register_alarm_types(&alarm_types::register_records);
         const std::vector<samples::sample> events = read_log(path);
         if (check && std::none_of(events.begin(), events.end(), [](const auto& s) { return s.text || s.xml; }))
             throw usage_error("--check needs a samples file, whose records say what to expect");

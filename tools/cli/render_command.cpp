@@ -38,7 +38,7 @@ void register_alarm_file(const std::string& path)
         names.push_back(std::make_unique<std::string>(name));
         records.push_back({id, names.back()->c_str()});
     }
-    RegisterAlarmTypeMap(static_cast<int>(records.size()), records.data());
+    alarm_types::register_records(static_cast<int>(records.size()), records.data());
 }
 
 void add_render(CLI::App& app, int& exit_code)
@@ -61,7 +61,7 @@ void add_render(CLI::App& app, int& exit_code)
     render->add_option("--color", colour, "Text in its display colour")
         ->check(CLI::IsMember({"auto", "always", "never"}));
     render->callback([&exit_code] {
-        samples::register_alarm_types(&RegisterAlarmTypeMap);
+        samples::register_alarm_types(&alarm_types::register_records);
         if (!alarms.empty())
             register_alarm_file(alarms);
         const event_type_row& row = find_event(event);

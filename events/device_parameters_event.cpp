@@ -1,4 +1,4 @@
-#include "devices/device_parameters_event.h"
+#include "events/device_parameters_event.h"
 
 #include <optional>
 #include <stdexcept>
@@ -92,14 +92,14 @@ record_kind select(payload_cursor& in)
 
 void device_parameters_changed_xml(payload_cursor& in, ui::event::xml_output& out)
 {
-    bool first = true;
-    family_a::write_changes(in, out, select(in), first);
+    xml_change_list changes(out);
+    family_a::write_changes(in, changes, select(in));
 }
 
 render::colour device_parameters_changed_text(payload_cursor& in, ui::event::text_output& out)
 {
-    bool first = true;
-    family_a::write_changes(in, out, select(in), first);
+    text_change_list changes(out);
+    family_a::write_changes(in, changes, select(in));
     out << "."_w;
     return render::colours::command;
 }

@@ -1,4 +1,4 @@
-#include "devices/data_changed_events.h"
+#include "events/data_changed_events.h"
 
 #include "core/text_format.h"
 #include "devices/change_set.h"

@@ -1,7 +1,9 @@
 // Device data-changed events: the change sets of a unit's stored settings.
 #pragma once
 
-#include "core/renderer.h"
+#include "core/event_output.h"
+#include "core/payload_cursor.h"
+#include "events/colours.h"
 
 render::colour properties_modified(payload_cursor& in, ui::event::text_output& out);
 void falcon_data_changed(payload_cursor& in, ui::event::xml_output& out);
