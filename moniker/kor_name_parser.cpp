@@ -79,7 +79,7 @@ void read_identifier_form(text_reader& in, KorName& name)
             return;
         }
     }
-    throw std::runtime_error("unrecognized moniker string");
+    throw std::runtime_error(messages::unrecognized_moniker_string);
 }
 
 constexpr wchar fold(wchar c) noexcept
