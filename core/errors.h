@@ -11,7 +11,6 @@
 
 #include "core/messages.h"
 #include "core/text_tokens.h"
-#include "core/type_name.h"
 #include "core/win_types.h"
 #include "core/wide.h"
 
