@@ -38,7 +38,7 @@ struct spelled_name {
 };
 
 template <class... Pieces>
-consteval spelled_name spell(Pieces... pieces)
+constexpr spelled_name spell(Pieces... pieces)
 {
     spelled_name name;
     (name.append(pieces), ...);
