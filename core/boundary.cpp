@@ -7,12 +7,6 @@
 
 namespace {
 
-constexpr HRESULT hresult_from_win32(std::uint32_t code) noexcept
-{
-    // The code is not masked to 16 bits.
-    return static_cast<HRESULT>(0x80070000u | code);
-}
-
 // A new error object describing `e`; null when none can be made.
 com::error_info* describe(const std::exception& e) noexcept
 {
@@ -34,12 +28,6 @@ HRESULT exception_result(const std::exception& e) noexcept
         result = error.code();
         info = error.info();
         platform::add_ref(info);
-    } else if (type == typeid(win32::error)) {
-        result = hresult_from_win32(static_cast<const win32::error&>(e).code());
-    } else if (type == typeid(bad_pointer)) {
-        result = E_POINTER;
-    } else if (type == typeid(not_implemented)) {
-        result = E_NOTIMPL;
     } else if (type == typeid(not_expected)) {
         result = E_UNEXPECTED;
     } else {

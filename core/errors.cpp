@@ -40,7 +40,7 @@ error::~error()
 
 } // namespace com
 
-const char* old_error::what() const noexcept
+const char* wide_message_error::what() const noexcept
 {
     if (!cache_) {
         try {
@@ -52,7 +52,7 @@ const char* old_error::what() const noexcept
             cache[text.size()] = '\0';
             cache_ = std::move(cache);
         } catch (...) {
-            return "Unknown exception";
+            return messages::unknown_exception;
         }
     }
     return cache_.get();

@@ -3,14 +3,14 @@
 // turn them into HRESULTs and error objects, so none ever leaves the module.
 #pragma once
 
-#include <cstdint>
-#include <cstring>
+#include <cstddef>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
-#include "core/type_name.h"
+#include "core/messages.h"
+#include "core/text_tokens.h"
 #include "core/win_types.h"
 #include "core/wide.h"
 
@@ -23,12 +23,12 @@ public:
 
 class overflow : public error {
 public:
-    overflow() : error("an overflow occured") {}
+    overflow() : error(messages::overflow) {}
 };
 
 class underflow : public error {
 public:
-    underflow() : error("an underflow occured") {}
+    underflow() : error(messages::underflow) {}
 };
 
 } // namespace io
@@ -60,51 +60,28 @@ private:
 
 } // namespace com
 
-namespace win32 {
-
-class error : public std::exception {
-public:
-    explicit error(std::uint32_t code) noexcept : code_(code) {}
-    std::uint32_t code() const noexcept { return code_; }
-    const char* what() const noexcept override { return "system error"; }
-
-private:
-    std::uint32_t code_;
-};
-
-} // namespace win32
-
-class bad_pointer : public std::exception {
-public:
-    const char* what() const noexcept override { return "invalid pointer"; }
-};
-
-class not_implemented : public std::exception {
-public:
-    const char* what() const noexcept override { return "not implemented"; }
-};
-
 class not_expected : public std::logic_error {
 public:
-    not_expected() : std::logic_error("Catastrophic failure") {}
+    not_expected() : std::logic_error(messages::catastrophic_failure) {}
 };
 
 namespace text {
 
 class integer_overflow : public std::overflow_error {
 public:
-    integer_overflow() : std::overflow_error("integer overflow") {}
+    integer_overflow() : std::overflow_error(messages::integer_overflow) {}
 };
 
 } // namespace text
 
-// The older error family: messages are built from pieces on demand, into a
-// wide buffer of the caller's size, truncating rather than refusing.
-class old_error : public std::exception {
+// The errors that carry a wide message, made from its pieces on demand and
+// cut to the room of the buffer it is written to (the thread's error object
+// takes it from what(), at most 259 units).
+class wide_message_error : public std::exception {
 public:
-    old_error() = default;
-    old_error(const old_error&) {}
-    old_error& operator=(const old_error&) { cache_.reset(); return *this; }
+    wide_message_error() = default;
+    wide_message_error(const wide_message_error&) {}
+    wide_message_error& operator=(const wide_message_error&) { cache_.reset(); return *this; }
 
     // Writes the message into `buffer` (room for `size` units, NUL included).
     virtual void format(wchar* buffer, std::size_t size) const = 0;
@@ -130,10 +107,11 @@ private:
 template <class Char>
 class generic_error_t;
 
+// A message given whole.
 template <>
-class generic_error_t<wchar_t> : public old_error {
+class generic_error_t<wchar_t> : public wide_message_error {
 public:
-    explicit generic_error_t(wstring text) : text_(std::move(text)) {}
+    explicit generic_error_t(wstring_view text) : text_(text) {}
     void format(wchar* buffer, std::size_t size) const override
     {
         message_writer(buffer, size) << wstring_view(text_);
@@ -144,40 +122,28 @@ private:
     wstring text_;
 };
 
-template <class Derived>
-class error_impl : public old_error {};
-
+// The failed reads of a text reader; each names the token expected or met by
+// its token_name (core/text_tokens.h).
 namespace io {
 
-class end_of_file : public error_impl<end_of_file> {
+template <class T>
+class expected_type : public wide_message_error {
 public:
     void format(wchar* buffer, std::size_t size) const override
     {
-        message_writer(buffer, size) << "The end of file was reached durring an IO operation.";
+        message_writer(buffer, size) << messages::expected_a << token_name<T> << messages::end_of_sentence;
     }
 };
-
-template <class T>
-class expected_type : public error_impl<expected_type<T>> {
-public:
-    void format(wchar* buffer, std::size_t size) const override
-    {
-        message_writer(buffer, size) << "Expected a " << type_name<T>() << ".";
-    }
-};
-
-template <class T>
-class expected_value;
 
 // A literal: a character or a short string such as "-".
 template <class T>
-class expected_value : public error_impl<expected_value<T>> {
+class expected_value : public wide_message_error {
 public:
     explicit expected_value(std::string value) : value_(std::move(value)) {}
     void format(wchar* buffer, std::size_t size) const override
     {
-        message_writer(buffer, size) << "Expected a " << type_name<T>() << " with a value of '"
-                                     << std::string_view(value_) << "'.";
+        message_writer(buffer, size) << messages::expected_a << token_name<T> << messages::with_a_value_of
+                                     << std::string_view(value_) << messages::end_of_value;
     }
 
 private:
@@ -185,14 +151,14 @@ private:
 };
 
 template <class T>
-class unexpected_value : public error_impl<unexpected_value<T>> {
+class unexpected_value : public wide_message_error {
 public:
     explicit unexpected_value(char value) : value_(value) {}
     void format(wchar* buffer, std::size_t size) const override
     {
-        message_writer(buffer, size) << "Encountered a " << type_name<T>()
-                                     << " with an enexpected value of '"
-                                     << std::string_view(&value_, 1) << "'.";
+        message_writer(buffer, size) << messages::encountered_a << token_name<T>
+                                     << messages::with_an_unexpected_value_of << std::string_view(&value_, 1)
+                                     << messages::end_of_value;
     }
 
 private:

@@ -45,7 +45,7 @@ public:
     void open_element(wstring_view name)
     {
         if (depth_ == elements_.size())
-            throw io::error("elements nested too deeply");
+            throw io::error(messages::elements_nested_too_deeply);
         close_start_tag();
         lines_ << "<"_w << name;
         elements_[depth_++] = name;
@@ -58,7 +58,7 @@ public:
     void attribute(wstring_view name, const Value& value)
     {
         if (tagClosed)
-            throw io::error("unexpected attribute");
+            throw io::error(messages::unexpected_attribute);
         lines_ << " "_w << name << "=\""_w << value << "\""_w;
     }
 
@@ -66,7 +66,7 @@ public:
     void close_element()
     {
         if (depth_ == 0)
-            throw io::error("no open element");
+            throw io::error(messages::no_open_element);
         const wstring_view top = elements_[--depth_];
         if (!tagClosed) {
             lines_ << "/>"_w;
@@ -111,8 +111,6 @@ public:
         lines_.write(tag, name.size() + 3 + after.size());
     }
 
-    bool tagClosed = true;
-
 private:
     void close_start_tag()
     {
@@ -123,6 +121,9 @@ private:
     }
 
     Lines lines_;
+    // Whether the last start tag has its ">" (or "/>") yet; while it has not,
+    // attributes may follow.
+    bool tagClosed = true;
     // The names of the open elements, literals of the module; no fragment
     // nests deeper than this.
     std::array<wstring_view, 16> elements_{};

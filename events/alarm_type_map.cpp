@@ -5,6 +5,8 @@
 #include <map>
 #include <stdexcept>
 
+#include "core/messages.h"
+
 namespace alarm_types {
 
 bool id_order::operator()(const GUID& a, const GUID& b) const noexcept
@@ -31,7 +33,7 @@ const char* name_of(const GUID& id)
     const map& names = the_map();
     const auto found = names.find(id);
     if (found == names.end() || !found->second)
-        throw std::runtime_error("bad alarm id");
+        throw std::runtime_error(messages::bad_alarm_id);
     return found->second;
 }
 

@@ -57,7 +57,7 @@ constexpr selection selections[] = {
 
 [[noreturn]] void refuse_other_family()
 {
-    com::error_info* info = platform::create_error_info(WSTR("the parameter records of this unit family are not supported"));
+    com::error_info* info = platform::create_error_info(messages::unit_family_not_supported);
     const com::error error(E_NOTIMPL, info);
     platform::release(info);
     throw error;
@@ -82,10 +82,10 @@ record_kind select(payload_cursor& in)
         return *s.record;
     }
     if (!device_record)
-        throw std::runtime_error("invalid unit type");
+        throw std::runtime_error(messages::invalid_unit_type);
     if (type_known && type == osprey)
-        throw std::runtime_error("invalid osprey device address");
-    throw std::runtime_error("invalid device type");
+        throw std::runtime_error(messages::invalid_osprey_device_address);
+    throw std::runtime_error(messages::invalid_device_type);
 }
 
 } // namespace

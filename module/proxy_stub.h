@@ -8,7 +8,10 @@ extern "C" {
 #endif
 
 HRESULT WINAPI korps_proxy_DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv);
-HRESULT WINAPI korps_proxy_DllCanUnloadNow(void);
+// Declared as the generated code defines it (rpcproxy.h's DLLCANUNLOADNOW:
+// an empty parameter list, which in C is no prototype), so that proxy_stub.c,
+// which sees that definition first, reads a declaration that agrees with it.
+HRESULT WINAPI korps_proxy_DllCanUnloadNow();
 HRESULT korps_proxy_register(HMODULE module);
 HRESULT korps_proxy_unregister(HMODULE module);
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/boundary.h"
+#include "core/messages.h"
 #include "core/text_reader.h"
 #include "devices/device_types.h"
 #include "moniker/kor_name_kinds.h"
@@ -60,7 +61,7 @@ void read_head(text_reader& in, KorName& name)
     const auto kind = std::ranges::find_if(
         kinds, [&](const kor_name_kind& k) { return !k.extends && k.identifier == identifier; });
     if (kind == kinds.end())
-        throw std::runtime_error("unrecognized moniker string");
+        throw std::runtime_error(messages::unrecognized_moniker_string);
     name.kind = static_cast<std::uint32_t>(kind - kinds.begin());
 }
 

@@ -4,7 +4,10 @@
 #include <cctype>
 #include <cstdio>
 #include <fstream>
+#include <optional>
 #include <sstream>
+
+#include "tools/result_names.h"
 
 namespace samples {
 namespace {
@@ -47,18 +50,8 @@ std::uint32_t parse_hex_number(const std::string& value, const std::string& file
 
 HRESULT parse_result(const std::string& value, const std::string& file, int line)
 {
-    static const struct {
-        const char* name;
-        HRESULT code;
-    } names[] = {{"S_OK", S_OK},
-                 {"E_UNEXPECTED", E_UNEXPECTED},
-                 {"E_POINTER", E_POINTER},
-                 {"E_NOTIMPL", E_NOTIMPL},
-                 {"E_OUTOFMEMORY", E_OUTOFMEMORY},
-                 {"DISP_E_EXCEPTION", DISP_E_EXCEPTION}};
-    for (const auto& n : names)
-        if (value == n.name)
-            return n.code;
+    if (const std::optional<HRESULT> named = results::named(value))
+        return *named;
     return static_cast<HRESULT>(parse_hex_number(value, file, line));
 }
 

@@ -98,16 +98,30 @@ TEST(Registrar, ReRegistrationRebuildsTheClassAndRemovalKeepsWhatIsNotOurs)
                            "kor\\hostnotes\n");
 }
 
+// A write fails at step 1, 2, 3 ... of the registration, until the script
+// has room to finish: every failed registration leaves nothing behind.
 TEST(Registrar, AFailingRegistryLeavesNothingOfTheScriptBehind)
 {
     const registry::script moniker = script_of("kor_moniker.rgs");
-    for (int writes = 0; writes < 12; ++writes) {
+    memory_hive whole;
+    whole.create_key(WSTR("CLSID"));
+    ASSERT_EQ(registry::register_script(moniker, whole), S_OK);
+
+    int writes = 0;
+    for (;; ++writes) {
+        ASSERT_LT(writes, 1000) << "registration never finishes";
         memory_hive hive;
         hive.create_key(WSTR("CLSID"));
         hive.writes_before_failure = writes;
-        EXPECT_EQ(registry::register_script(moniker, hive), E_FAIL) << writes;
+        const HRESULT result = registry::register_script(moniker, hive);
+        if (result == S_OK) {
+            EXPECT_EQ(hive.dump(), whole.dump()) << "with room for " << writes << " writes";
+            break;
+        }
+        EXPECT_EQ(result, E_FAIL) << writes;
         EXPECT_EQ(hive.dump(), "clsid\n") << "after " << writes << " writes";
     }
+    EXPECT_GT(writes, 0) << "no fault was ever injected";
 }
 
 TEST(RegistryScript, MalformedScriptsNameTheirLine)

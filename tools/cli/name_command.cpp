@@ -6,7 +6,6 @@
 #include "core/errors.h"
 #include "core/platform.h"
 #include "tools/cli/cli_error.h"
-#include "tools/cli/cli_error.h"
 #include "tools/cli/commands.h"
 #include "tools/cli/event_lookup.h"
 #include "tools/cli/payload_input.h"
@@ -109,11 +108,16 @@ void add_name(CLI::App& app, int& exit_code)
         if (!from_stream.empty()) {
             byte_buffer stream;
             stream.bytes = hex_bytes(from_stream, "--from-stream");
+            const char* why = nullptr;
             try {
                 load_kor_name(parsed, stream);
+            } catch (const not_expected&) {
+                why = "an unknown kind";   // the kind field names none of the forms
             } catch (const std::exception& e) {
-                std::fprintf(stderr, "korps: the stream holds no name: %s\n",
-                             std::strcmp(e.what(), "Catastrophic failure") ? e.what() : "an unknown kind");
+                why = e.what();
+            }
+            if (why) {
+                std::fprintf(stderr, "korps: the stream holds no name: %s\n", why);
                 exit_code = failed;
                 return;
             }
