@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-namespace module {
+namespace lifetime {
 namespace {
 std::atomic<long> locks{0};
 }
@@ -22,4 +22,4 @@ long lock_count() noexcept
     return locks.load(std::memory_order_acquire);
 }
 
-} // namespace module
+} // namespace lifetime

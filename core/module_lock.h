@@ -2,7 +2,7 @@
 // holds one, and the module may be unloaded only when none is held.
 #pragma once
 
-namespace module {
+namespace lifetime {
 
 void lock() noexcept;
 void unlock() noexcept;
@@ -17,4 +17,4 @@ public:
     lock_guard& operator=(const lock_guard&) = delete;
 };
 
-} // namespace module
+} // namespace lifetime

@@ -6,7 +6,7 @@
 
 #include "core/module_lock.h"
 
-namespace module {
+namespace lifetime {
 
 class ref_count {
 public:
@@ -34,4 +34,4 @@ private:
     std::atomic<unsigned long> refs_;
 };
 
-} // namespace module
+} // namespace lifetime

@@ -9,12 +9,12 @@
 CEnumEVENTUI::CEnumEVENTUI(const event_type_row* begin, const event_type_row* end) noexcept
     : begin_(begin), cur_(begin), end_(end)
 {
-    module::lock();
+    lifetime::lock();
 }
 
 CEnumEVENTUI::~CEnumEVENTUI()
 {
-    module::unlock();
+    lifetime::unlock();
 }
 
 HRESULT CEnumEVENTUI::Create(const event_type_row* begin, const event_type_row* end, IEnumEVENTUI** ppEnum)

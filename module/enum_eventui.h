@@ -27,7 +27,7 @@ public:
 private:
     ~CEnumEVENTUI();
 
-    module::ref_count refs_;
+    lifetime::ref_count refs_;
     const event_type_row* begin_;
     const event_type_row* cur_;
     const event_type_row* end_;

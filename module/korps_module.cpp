@@ -94,7 +94,7 @@ HRESULT CKORPSModule::CanUnloadNow() noexcept
     const HRESULT proxies = korps_proxy_DllCanUnloadNow();
     if (FAILED(proxies))
         return proxies;
-    return module::lock_count() == 0 ? S_OK : S_FALSE;
+    return lifetime::lock_count() == 0 ? S_OK : S_FALSE;
 }
 
 void CKORPSModule::RunScript(UINT resource, bool install)

@@ -28,12 +28,12 @@ constexpr interface_entry<CKorMoniker> interfaces[] = {
 
 CKorMoniker::CKorMoniker(const KorName& name) noexcept : name_(name)
 {
-    module::lock();
+    lifetime::lock();
 }
 
 CKorMoniker::~CKorMoniker()
 {
-    module::unlock();
+    lifetime::unlock();
 }
 
 HRESULT CKorMoniker::Parse(LPCOLESTR text, ULONG* eaten) noexcept

@@ -74,7 +74,7 @@ private:
     // object, or the bind context's "ServiceProvider" object.
     static HRESULT FindServiceProvider(IBindCtx* pbc, IMoniker* pmkToLeft, com_ptr<IServiceProvider>& provider);
 
-    module::ref_count refs_;
+    lifetime::ref_count refs_;
     // Written only while the moniker is being made, parsed or loaded, before
     // anybody else holds it; read-only afterwards.
     KorName name_;

@@ -33,13 +33,13 @@ ULONG CFactory::AddRef()
 {
     const ULONG count = refs_.add();
     if (count == 1)
-        module::lock();
+        lifetime::lock();
     return count;
 }
 
 ULONG CFactory::Release()
 {
-    return refs_.release([] { module::unlock(); });
+    return refs_.release([] { lifetime::unlock(); });
 }
 
 HRESULT CFactory::CreateInstance(IUnknown* pUnkOuter, REFIID riid, void** ppvObject)
@@ -55,9 +55,9 @@ HRESULT CFactory::CreateInstance(IUnknown* pUnkOuter, REFIID riid, void** ppvObj
 HRESULT CFactory::LockServer(BOOL fLock)
 {
     if (fLock)
-        module::lock();
+        lifetime::lock();
     else
-        module::unlock();
+        lifetime::unlock();
     return S_OK;
 }
 

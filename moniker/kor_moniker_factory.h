@@ -47,5 +47,5 @@ private:
     // A new moniker naming `name`, as IMoniker.
     static HRESULT Create(const KorName& name, IMoniker** moniker) noexcept;
 
-    module::ref_count refs_{0};   // outside references only: the object lives as long as the module
+    lifetime::ref_count refs_{0};   // outside references only: the object lives as long as the module
 };

@@ -65,8 +65,8 @@ inline constexpr alarm_type alarm_types[] = {
 };
 
 // Registers alarm_types, as a host does before it renders anything, through
-// `register_map`: the module's RegisterAlarmTypeMap, whichever side of the
-// module boundary it is called from. The module keeps the names, which are
+// `register_map`: the module's RegisterAlarmTypeMap export from outside the
+// module, or alarm_types::register_records from inside. The module keeps the names, which are
 // static, not the records.
 template <class Record>
 int register_alarm_types(int(KORPS_CDECL* register_map)(int, const Record*))

@@ -9,6 +9,7 @@
 #include "tools/cli/commands.h"
 #include "tools/cli/event_lookup.h"
 #include "tools/cli/payload_input.h"
+#include "moniker/kor_name_kinds.h"
 #include "moniker/kor_name_parser.h"
 #include "moniker/kor_name_printer.h"
 #include "moniker/kor_name_stream.h"
@@ -16,9 +17,6 @@
 
 namespace cli {
 namespace {
-
-constexpr const char* form_names[] = {"MAC address", "device at an IPv4 address", "device at an IPv4 address, extended",
-                                      "transponder"};
 
 struct byte_buffer final : byte_sink, byte_source {
     std::vector<std::uint8_t> bytes;
@@ -56,7 +54,7 @@ nlohmann::ordered_json describe(const KorName& name)
 {
     nlohmann::ordered_json j;
     j["kind"] = name.kind;
-    j["form"] = form_names[name.kind];
+    j["form"] = find_kor_name_kind(name.kind)->form;
     switch (name.kind) {
     case KorName::MacAddress: {
         std::vector<std::uint8_t> printed(name.mac.rbegin(), name.mac.rend());
