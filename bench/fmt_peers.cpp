@@ -94,7 +94,7 @@ std::size_t unit_alarms(std::span<const std::uint8_t> payload, wchar_t* out, std
 {
     payload_cursor in(payload.data(), payload.size());
     const unit_alarm_record record = unit_alarm_record::read(in);
-    const alarm_layout* layout = find_alarm_layout(record.device_type);
+    const alarm_layout* layout = find_alarm_layout(record.deviceType);
     std::size_t n = 0;
     for (const alarm_group& group : layout->groups)
         for (const alarm_bit& b : group.bits) {
@@ -133,7 +133,7 @@ std::size_t parameter_diff(std::span<const std::uint8_t> payload, wchar_t* out, 
         for (std::size_t k = 0; k < g.count; ++k) {
             if (!((old_present | new_present) >> k & 1))
                 continue;
-            const field& f = fields[g.field_index[k]];
+            const field& f = fields[g.fieldIndex[k]];
             const auto& table = demod_tables_r1.*f.table;
             const auto r = fmt::format_to_n(out + n, capacity - 1 - n, L"{}{} was changed from {} to {}",
                                             n ? L", " : L"", ascii{f.display}, option_name(table, old_in.read_u8()),

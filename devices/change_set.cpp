@@ -99,7 +99,7 @@ void write_section(payload_cursor& in, ui::event::xml_output& out, const section
 
 void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set)
 {
-    const std::uint64_t mask = set.mask_bytes == 2 ? in.read_u16() : in.read_u8();
+    const std::uint64_t mask = set.maskBytes == 2 ? in.read_u16() : in.read_u8();
     for_each_set_bit(mask, set.sections, [&](const section& s, std::size_t) { write_section(in, out, s); });
 }
 

@@ -29,7 +29,7 @@ struct section {
 };
 
 struct change_set {
-    std::size_t mask_bytes;   // 1 or 2
+    std::size_t maskBytes;   // 1 or 2
     std::span<const section> sections;
 };
 

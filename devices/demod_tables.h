@@ -212,90 +212,90 @@ static_assert(values_unique(roll_off));
 
 // The tables one record layout shows its coded fields with.
 struct demod_value_tables {
-    std::span<const OptionEntry> alarm_state;
+    std::span<const OptionEntry> alarmState;
     std::span<const OptionEntry> enable;
-    std::span<const OptionEntry> alarm_mask;
-    std::span<const OptionEntry> unread_flag;
+    std::span<const OptionEntry> alarmMask;
+    std::span<const OptionEntry> unreadFlag;
     std::span<const OptionEntry> installed;
-    std::span<const OptionEntry> lock_state;
+    std::span<const OptionEntry> lockState;
     std::span<const OptionEntry> inversion;
     std::span<const OptionEntry> modulation;
-    std::span<const OptionEntry> fec_type;
-    std::span<const OptionEntry> fec_rate;
+    std::span<const OptionEntry> fecType;
+    std::span<const OptionEntry> fecRate;
     std::span<const OptionEntry> scrambler;
-    std::span<const OptionEntry> lnb_power;
-    std::span<const OptionEntry> config_slot;
-    std::span<const OptionEntry> sample_interval;
-    std::span<const OptionEntry> external_reference;
+    std::span<const OptionEntry> lnbPower;
+    std::span<const OptionEntry> configSlot;
+    std::span<const OptionEntry> sampleInterval;
+    std::span<const OptionEntry> externalReference;
     std::span<const OptionEntry> band;
-    std::span<const OptionEntry> unit_kind;
-    std::span<const OptionEntry> roll_off;
+    std::span<const OptionEntry> unitKind;
+    std::span<const OptionEntry> rollOff;
 };
 
 // R1: unit and demodulator sections of the older units, external reference
 // included; FEC lists end at Turbo and "1/1 Rate".
 inline constexpr demod_value_tables demod_tables_r1 = {
-    .alarm_state = demod_options::alarm_state,
+    .alarmState = demod_options::alarm_state,
     .enable = demod_options::enable,
-    .alarm_mask = demod_options::alarm_mask,
-    .unread_flag = demod_options::unread_flag,
+    .alarmMask = demod_options::alarm_mask,
+    .unreadFlag = demod_options::unread_flag,
     .installed = demod_options::installed,
-    .lock_state = demod_options::lock_state,
+    .lockState = demod_options::lock_state,
     .inversion = demod_options::inversion,
     .modulation = demod_options::modulation,
-    .fec_type = demod_options::rows_through(demod_options::fec_type, 6),
-    .fec_rate = demod_options::rows_through(demod_options::fec_rate, 7),
+    .fecType = demod_options::rows_through(demod_options::fec_type, 6),
+    .fecRate = demod_options::rows_through(demod_options::fec_rate, 7),
     .scrambler = demod_options::scrambler,
-    .lnb_power = demod_options::lnb_power,
-    .config_slot = demod_options::config_slot,
-    .sample_interval = demod_options::sample_interval,
-    .external_reference = demod_options::external_reference,
+    .lnbPower = demod_options::lnb_power,
+    .configSlot = demod_options::config_slot,
+    .sampleInterval = demod_options::sample_interval,
+    .externalReference = demod_options::external_reference,
     .band = {},
-    .unit_kind = {},
-    .roll_off = {},
+    .unitKind = {},
+    .rollOff = {},
 };
 
 // R2: a demodulator section only, with the same lists as R1.
 inline constexpr demod_value_tables demod_tables_r2 = {
-    .alarm_state = demod_options::alarm_state,
+    .alarmState = demod_options::alarm_state,
     .enable = demod_options::enable,
-    .alarm_mask = demod_options::alarm_mask,
-    .unread_flag = {},
+    .alarmMask = demod_options::alarm_mask,
+    .unreadFlag = {},
     .installed = {},
-    .lock_state = demod_options::lock_state,
+    .lockState = demod_options::lock_state,
     .inversion = demod_options::inversion,
     .modulation = demod_options::modulation,
-    .fec_type = demod_tables_r1.fec_type,
-    .fec_rate = demod_tables_r1.fec_rate,
+    .fecType = demod_tables_r1.fecType,
+    .fecRate = demod_tables_r1.fecRate,
     .scrambler = demod_options::scrambler,
-    .lnb_power = demod_options::lnb_power,
-    .config_slot = {},
-    .sample_interval = {},
-    .external_reference = {},
+    .lnbPower = demod_options::lnb_power,
+    .configSlot = {},
+    .sampleInterval = {},
+    .externalReference = {},
     .band = {},
-    .unit_kind = {},
-    .roll_off = {},
+    .unitKind = {},
+    .rollOff = {},
 };
 
 // R3: the newer units; full FEC lists, no 23 V LNB supply, no external
 // reference, and the band, unit kind and roll-off fields.
 inline constexpr demod_value_tables demod_tables_r3 = {
-    .alarm_state = demod_options::alarm_state,
+    .alarmState = demod_options::alarm_state,
     .enable = demod_options::enable,
-    .alarm_mask = demod_options::alarm_mask,
-    .unread_flag = demod_options::unread_flag,
+    .alarmMask = demod_options::alarm_mask,
+    .unreadFlag = demod_options::unread_flag,
     .installed = demod_options::installed,
-    .lock_state = demod_options::lock_state,
+    .lockState = demod_options::lock_state,
     .inversion = demod_options::inversion,
     .modulation = demod_options::modulation,
-    .fec_type = demod_options::fec_type,
-    .fec_rate = demod_options::fec_rate,
+    .fecType = demod_options::fec_type,
+    .fecRate = demod_options::fec_rate,
     .scrambler = demod_options::scrambler,
-    .lnb_power = demod_options::rows_through(demod_options::lnb_power, 2),
-    .config_slot = demod_options::config_slot,
-    .sample_interval = demod_options::sample_interval,
-    .external_reference = {},
+    .lnbPower = demod_options::rows_through(demod_options::lnb_power, 2),
+    .configSlot = demod_options::config_slot,
+    .sampleInterval = demod_options::sample_interval,
+    .externalReference = {},
     .band = demod_options::band,
-    .unit_kind = demod_options::unit_kind,
-    .roll_off = demod_options::roll_off,
+    .unitKind = demod_options::unit_kind,
+    .rollOff = demod_options::roll_off,
 };

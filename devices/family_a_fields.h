@@ -53,7 +53,7 @@ struct field {
     value kind;
     std::span<const OptionEntry> demod_value_tables::*table = nullptr;   // for `option`
     field_scale scale{};                                                  // for `scaled`
-    bool is_signed = false;                                               // for `scaled`
+    bool isSigned = false;                                               // for `scaled`
     std::array<slot, layouts> at{};                                       // R1, R2, R3
 };
 
@@ -88,9 +88,9 @@ inline constexpr field fields[] = {
     plain("SerialNumber"_w, "Unit Serial Number"_w, value::number, {unit(0), no, unit(0)}),
     plain("Version"_w, "Unit Software Version Number"_w, value::text, {unit(0), no, no}),
     plain("CircuitID"_w, "Unit Circuit ID"_w, value::text, {unit(0), no, no}),
-    opt("UnitStatus"_w, "Unit Alarm Status"_w, &tables::alarm_state, {unit(1), no, unit(1)}),
-    opt("RxStatus"_w, "Rx Alarm Status"_w, &tables::alarm_state, {demod(0), demod(0), unit(1)}),
-    opt("LnbStatus"_w, "LNB Alarm Status"_w, &tables::alarm_state, {demod(0), demod(0), unit(1)}),
+    opt("UnitStatus"_w, "Unit Alarm Status"_w, &tables::alarmState, {unit(1), no, unit(1)}),
+    opt("RxStatus"_w, "Rx Alarm Status"_w, &tables::alarmState, {demod(0), demod(0), unit(1)}),
+    opt("LnbStatus"_w, "LNB Alarm Status"_w, &tables::alarmState, {demod(0), demod(0), unit(1)}),
     plain("UnitTemp"_w, "Unit Temperature"_w, value::temperature, {unit(0), no, unit(0)}),
     opt("Ref2E7Opt"_w, "Reference 2E7 option Installed"_w, &tables::installed, {unit(2), no, no}),
     opt("Ref2E8Opt"_w, "Reference 2E8 option Installed"_w, &tables::installed, {unit(2), no, no}),
@@ -109,68 +109,68 @@ inline constexpr field fields[] = {
     opt("PayloadCompOpt"_w, "Payload Compression Installed"_w, &tables::installed, {no, no, unit(3)}),
     opt("CFSOpt"_w, "Corvane File Streamer Installed"_w, &tables::installed, {no, no, unit(3)}),
     opt("QuadBandUnit"_w, "Quad Band Unit"_w, &tables::band, {no, no, unit(3)}),
-    opt("LBandUnit"_w, "L-Band Unit"_w, &tables::unit_kind, {no, no, unit(3)}),
-    opt("XrefStatus"_w, "Ext Reference Alarm Status"_w, &tables::alarm_state, {unit(1), no, no}),
+    opt("LBandUnit"_w, "L-Band Unit"_w, &tables::unitKind, {no, no, unit(3)}),
+    opt("XrefStatus"_w, "Ext Reference Alarm Status"_w, &tables::alarmState, {unit(1), no, no}),
     plain("UnitType"_w, "Unit Type"_w, value::number, {unit(0), no, unit(0)}),
-    opt("P5Alm"_w, "+5V Alarm"_w, &tables::alarm_state, {unit(4), no, unit(4)}),
-    opt("P12Alm"_w, "+12V Alarm"_w, &tables::alarm_state, {unit(4), no, unit(4)}),
-    opt("N5Alm"_w, "-5V Alarm"_w, &tables::alarm_state, {unit(4), no, unit(4)}),
-    opt("P23Alm"_w, "+23V Alarm"_w, &tables::alarm_state, {unit(4), no, no}),
-    opt("N12Alm"_w, "-12V Alarm"_w, &tables::alarm_state, {unit(4), no, unit(4)}),
-    opt("TxSynth"_w, "Tx Synthesizer Alarm"_w, &tables::alarm_state, {unit(4), no, no}),
-    opt("Rx1stLOSynth"_w, "Rx 1st LO synth Alarm"_w, &tables::alarm_state, {unit(4), no, unit(4)}),
-    opt("Rx2ndLOSynth"_w, "Rx 2nd LO synth Alarm"_w, &tables::alarm_state, {unit(4), no, unit(4)}),
-    opt("RefPLL"_w, "Ext Ref PLL Alarm"_w, &tables::alarm_state, {unit(5), no, no}),
-    opt("EEcksum"_w, "EEPROM Checksum Alarm"_w, &tables::alarm_state, {unit(5), no, no}),
-    opt("StoreLocation"_w, "Configuration Store Location"_w, &tables::config_slot, {unit(6), no, unit(6)}),
-    opt("LoadLocation"_w, "Configuration Load Location"_w, &tables::config_slot, {unit(6), no, unit(6)}),
-    opt("UnreadEvent"_w, "Unread Events Flag"_w, &tables::unread_flag, {unit(6), no, unit(6)}),
+    opt("P5Alm"_w, "+5V Alarm"_w, &tables::alarmState, {unit(4), no, unit(4)}),
+    opt("P12Alm"_w, "+12V Alarm"_w, &tables::alarmState, {unit(4), no, unit(4)}),
+    opt("N5Alm"_w, "-5V Alarm"_w, &tables::alarmState, {unit(4), no, unit(4)}),
+    opt("P23Alm"_w, "+23V Alarm"_w, &tables::alarmState, {unit(4), no, no}),
+    opt("N12Alm"_w, "-12V Alarm"_w, &tables::alarmState, {unit(4), no, unit(4)}),
+    opt("TxSynth"_w, "Tx Synthesizer Alarm"_w, &tables::alarmState, {unit(4), no, no}),
+    opt("Rx1stLOSynth"_w, "Rx 1st LO synth Alarm"_w, &tables::alarmState, {unit(4), no, unit(4)}),
+    opt("Rx2ndLOSynth"_w, "Rx 2nd LO synth Alarm"_w, &tables::alarmState, {unit(4), no, unit(4)}),
+    opt("RefPLL"_w, "Ext Ref PLL Alarm"_w, &tables::alarmState, {unit(5), no, no}),
+    opt("EEcksum"_w, "EEPROM Checksum Alarm"_w, &tables::alarmState, {unit(5), no, no}),
+    opt("StoreLocation"_w, "Configuration Store Location"_w, &tables::configSlot, {unit(6), no, unit(6)}),
+    opt("LoadLocation"_w, "Configuration Load Location"_w, &tables::configSlot, {unit(6), no, unit(6)}),
+    opt("UnreadEvent"_w, "Unread Events Flag"_w, &tables::unreadFlag, {unit(6), no, unit(6)}),
     plain("EventLogItem"_w, "Event Log Item"_w, value::number, {unit(6), no, unit(6)}),
-    opt("UnreadStat"_w, "Unread Statistics Flag"_w, &tables::unread_flag, {unit(6), no, unit(6)}),
-    opt("SampleInterval"_w, "Statistics Sample Interval"_w, &tables::sample_interval, {unit(6), no, unit(6)}),
+    opt("UnreadStat"_w, "Unread Statistics Flag"_w, &tables::unreadFlag, {unit(6), no, unit(6)}),
+    opt("SampleInterval"_w, "Statistics Sample Interval"_w, &tables::sampleInterval, {unit(6), no, unit(6)}),
     scaled("LogMinEbNo"_w, "Log Item, Minimum EbNo"_w, scales::ebno, signed_reading, {unit(7), no, unit(7)}),
     scaled("LogAveEbNo"_w, "Log Item, Average EbNo"_w, scales::ebno, signed_reading, {unit(7), no, unit(7)}),
     plain("LogMaxPLI"_w, "Log Item, Max Tx Power Level Increase"_w, value::number, {unit(7), no, unit(7)}),
     plain("LogAvePLI"_w, "Log Item, Ave Tx Power Level Increase"_w, value::number, {unit(7), no, unit(7)}),
     plain("LogDateTime"_w, "Log Item, Date/Time Stamp"_w, value::time_stamp, {unit(7), no, unit(7)}),
-    opt("XrefFrequency"_w, "Ext Ref Frequency"_w, &tables::external_reference, {unit(5), no, no}),
-    opt("XrefAlarmMask"_w, "Ext Ref Alarm Mask"_w, &tables::alarm_mask, {unit(5), no, no}),
+    opt("XrefFrequency"_w, "Ext Ref Frequency"_w, &tables::externalReference, {unit(5), no, no}),
+    opt("XrefAlarmMask"_w, "Ext Ref Alarm Mask"_w, &tables::alarmMask, {unit(5), no, no}),
     plain("IpAddress"_w, "Unit IP Address"_w, value::address, {unit(8), no, unit(8)}),
     plain("IpMask"_w, "Unit IP Mask"_w, value::address, {unit(8), no, unit(8)}),
     plain("MacAddress"_w, "Unit Ethernet MAC Address"_w, value::mac, {unit(8), no, unit(8)}),
-    opt("DemLck"_w, "Demodulator Lock State"_w, &tables::lock_state, {demod(0), demod(0), demod(0)}),
+    opt("DemLck"_w, "Demodulator Lock State"_w, &tables::lockState, {demod(0), demod(0), demod(0)}),
     scaled("RxEbNo"_w, "Rx EbNo"_w, scales::ebno, signed_reading, {demod(0), demod(0), demod(0)}),
     plain("EstBER"_w, "Rx Estimated Bit-Error-Rate"_w, value::number, {demod(0), demod(0), demod(0)}),
     scaled("RxFreqOffset"_w, "Rx Frequency Offset"_w, scales::frequency, signed_reading,
            {demod(0), demod(0), demod(0)}),
     plain("BufFillState"_w, "Buffer Fill State"_w, value::number, {demod(0), demod(0), demod(0)}),
-    opt("AGC"_w, "Rx AGC Alarm"_w, &tables::alarm_state, {demod(1), demod(1), demod(1)}),
-    opt("BufUnder"_w, "Rx Buffer Underflow Alarm"_w, &tables::alarm_state, {demod(1), demod(1), demod(1)}),
-    opt("BufOver"_w, "Rx Buffer Overflow Alarm"_w, &tables::alarm_state, {demod(1), demod(1), demod(1)}),
-    opt("EbNoAlm"_w, "Rx EbNo Alarm"_w, &tables::alarm_state, {demod(1), demod(1), demod(1)}),
-    opt("DemodLock"_w, "Rx Demod Lock Alarm"_w, &tables::alarm_state, {demod(1), demod(1), demod(1)}),
-    opt("LnbCurrent"_w, "LNB Current Alarm"_w, &tables::alarm_state, {demod(1), demod(1), demod(1)}),
-    opt("LnbVoltage"_w, "LNB Voltage Alarm"_w, &tables::alarm_state, {demod(1), demod(1), demod(1)}),
-    opt("AgcMsk"_w, "Rx AGC Alarm Mask"_w, &tables::alarm_mask, {demod(2), demod(2), demod(2)}),
-    opt("EbMsk"_w, "Rx EbNo Alarm Mask"_w, &tables::alarm_mask, {demod(2), demod(2), demod(2)}),
-    opt("LnbMsk"_w, "LNB Alarm Mask"_w, &tables::alarm_mask, {demod(2), demod(2), demod(2)}),
-    opt("DmdMsk"_w, "Rx Unlock Alarm Mask"_w, &tables::alarm_mask, {demod(2), demod(2), demod(2)}),
+    opt("AGC"_w, "Rx AGC Alarm"_w, &tables::alarmState, {demod(1), demod(1), demod(1)}),
+    opt("BufUnder"_w, "Rx Buffer Underflow Alarm"_w, &tables::alarmState, {demod(1), demod(1), demod(1)}),
+    opt("BufOver"_w, "Rx Buffer Overflow Alarm"_w, &tables::alarmState, {demod(1), demod(1), demod(1)}),
+    opt("EbNoAlm"_w, "Rx EbNo Alarm"_w, &tables::alarmState, {demod(1), demod(1), demod(1)}),
+    opt("DemodLock"_w, "Rx Demod Lock Alarm"_w, &tables::alarmState, {demod(1), demod(1), demod(1)}),
+    opt("LnbCurrent"_w, "LNB Current Alarm"_w, &tables::alarmState, {demod(1), demod(1), demod(1)}),
+    opt("LnbVoltage"_w, "LNB Voltage Alarm"_w, &tables::alarmState, {demod(1), demod(1), demod(1)}),
+    opt("AgcMsk"_w, "Rx AGC Alarm Mask"_w, &tables::alarmMask, {demod(2), demod(2), demod(2)}),
+    opt("EbMsk"_w, "Rx EbNo Alarm Mask"_w, &tables::alarmMask, {demod(2), demod(2), demod(2)}),
+    opt("LnbMsk"_w, "LNB Alarm Mask"_w, &tables::alarmMask, {demod(2), demod(2), demod(2)}),
+    opt("DmdMsk"_w, "Rx Unlock Alarm Mask"_w, &tables::alarmMask, {demod(2), demod(2), demod(2)}),
     scaled("RxFrequency"_w, "Rx Frequency"_w, scales::frequency, false, {demod(3), demod(3), demod(3)}),
     opt("RxSpcInv"_w, "Rx Spectral Inversion"_w, &tables::inversion, {demod(3), demod(3), demod(3)}),
     scaled("RxSweepRange"_w, "Rx Sweep Range"_w, scales::frequency, false, {demod(3), demod(3), demod(3)}),
     scaled("RxEbNoAlarm"_w, "Rx EbNo Alarm Point"_w, scales::ebno, signed_reading, {demod(3), demod(3), demod(3)}),
     scaled("RxSignalLevel"_w, "Rx Signal Level"_w, scales::signal_level, signed_reading,
            {demod(3), demod(3), demod(3)}),
-    opt("RxROF"_w, "Rx Roll Off Factor"_w, &tables::roll_off, {no, no, demod(3)}),
+    opt("RxROF"_w, "Rx Roll Off Factor"_w, &tables::rollOff, {no, no, demod(3)}),
     scaled("RxDatarate"_w, "Rx Data Rate"_w, scales::data_rate, false, {demod(3), demod(3), demod(3)}),
     opt("RxModulation"_w, "Rx Modulation"_w, &tables::modulation, {demod(4), demod(4), demod(4)}),
-    opt("RxFecType"_w, "Rx FEC Type"_w, &tables::fec_type, {demod(4), demod(4), demod(4)}),
-    opt("RxFecRate"_w, "Rx FEC Rate"_w, &tables::fec_rate, {demod(4), demod(4), demod(4)}),
+    opt("RxFecType"_w, "Rx FEC Type"_w, &tables::fecType, {demod(4), demod(4), demod(4)}),
+    opt("RxFecRate"_w, "Rx FEC Rate"_w, &tables::fecRate, {demod(4), demod(4), demod(4)}),
     opt("RxScram"_w, "Rx Scrambler"_w, &tables::scrambler, {demod(4), demod(4), demod(4)}),
     opt("RxDataInvert"_w, "Rx Data Invert"_w, &tables::inversion, {demod(4), demod(4), demod(4)}),
     opt("RxClockInvert"_w, "Rx Clock Invert"_w, &tables::inversion, {no, no, demod(4)}),
     scaled("RxSymbolRate"_w, "Rx Symbol Rate"_w, scales::symbol_rate, false, {no, no, demod(4)}),
-    opt("LnbPowerControl"_w, "LNB Power Control"_w, &tables::lnb_power, {demod(5), demod(5), demod(5)}),
+    opt("LnbPowerControl"_w, "LNB Power Control"_w, &tables::lnbPower, {demod(5), demod(5), demod(5)}),
     opt("LnbRefEnable"_w, "LNB Reference Enable"_w, &tables::enable, {demod(5), demod(5), demod(5)}),
     scaled("LnbCurrentLimitHigh"_w, "LNB High Current Limit"_w, scales::lnb_current, false,
            {demod(5), demod(5), demod(5)}),
@@ -224,10 +224,10 @@ static_assert(group_size(r2, section::unit, 0) == 0, "R2 has no unit section");
 // --- The groups of each layout and section, as lists of fields ---------------
 
 struct group {
-    std::array<std::uint8_t, 8> field_index{};   // into `fields`, bit order
+    std::array<std::uint8_t, 8> fieldIndex{};   // into `fields`, bit order
     std::uint8_t count = 0;                       // 0: the layout has no such group
 
-    constexpr std::span<const std::uint8_t> members() const { return {field_index.data(), count}; }
+    constexpr std::span<const std::uint8_t> members() const { return {fieldIndex.data(), count}; }
 };
 
 using section_groups = std::array<group, groups_per_section>;
@@ -239,7 +239,7 @@ consteval section_groups groups_of(layout l, section s)
         const slot at = fields[i].at[l];
         if (at.carried && at.in == s) {
             group& g = groups[at.group];
-            g.field_index[g.count++] = static_cast<std::uint8_t>(i);
+            g.fieldIndex[g.count++] = static_cast<std::uint8_t>(i);
         }
     }
     return groups;

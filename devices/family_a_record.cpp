@@ -17,10 +17,10 @@ const section_groups& groups_of(record_kind record) noexcept
 struct item {
     const field& f;
     const demod_value_tables& tables;
-    payload_cursor& old_in;
-    bool has_old;
-    payload_cursor& new_in;
-    bool has_new;
+    payload_cursor& oldIn;
+    bool hasOld;
+    payload_cursor& newIn;
+    bool hasNew;
 };
 
 // Reads the values the two copies hold with `read` and adds the item to the
@@ -28,12 +28,12 @@ struct item {
 template <class List, class Read, class Format>
 void add_item(List& list, const item& it, Read read, const Format& format)
 {
-    decltype(std::invoke(read, it.old_in)) old_value{}, new_value{};
-    if (it.has_old)
-        old_value = std::invoke(read, it.old_in);
-    if (it.has_new)
-        new_value = std::invoke(read, it.new_in);
-    list.add({it.f.key, it.f.display}, it.has_old, old_value, it.has_new, new_value, format);
+    decltype(std::invoke(read, it.oldIn)) old_value{}, new_value{};
+    if (it.hasOld)
+        old_value = std::invoke(read, it.oldIn);
+    if (it.hasNew)
+        new_value = std::invoke(read, it.newIn);
+    list.add({it.f.key, it.f.display}, it.hasOld, old_value, it.hasNew, new_value, format);
 }
 
 // --- How each kind of value is read and shown --------------------------------
@@ -71,7 +71,7 @@ struct scaled_kind {
     template <class List>
     static void add(List& list, const item& it)
     {
-        if (it.f.is_signed)
+        if (it.f.isSigned)
             add_item(list, it, &payload_cursor::read_i32, formats::scaled{it.f.scale});
         else
             add_item(list, it, &payload_cursor::read_u32, formats::scaled{it.f.scale});
@@ -81,8 +81,8 @@ struct scaled_kind {
 struct value_kind {
     value kind;
     void (*skip)(payload_cursor&);
-    void (*add_text)(text_change_list&, const item&);
-    void (*add_xml)(xml_change_list&, const item&);
+    void (*addText)(text_change_list&, const item&);
+    void (*addXml)(xml_change_list&, const item&);
 };
 
 template <class Kind>
@@ -119,12 +119,12 @@ const value_kind& kind_of(const field& f) noexcept
 
 void add(text_change_list& list, const item& it)
 {
-    kind_of(it.f).add_text(list, it);
+    kind_of(it.f).addText(list, it);
 }
 
 void add(xml_change_list& list, const item& it)
 {
-    kind_of(it.f).add_xml(list, it);
+    kind_of(it.f).addXml(list, it);
 }
 
 // --- The walk -----------------------------------------------------------------

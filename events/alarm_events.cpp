@@ -133,7 +133,7 @@ public:
         out_ << "\n"_w;
     }
 
-    bool covers(const alarm_layout& layout) const noexcept { return layout.in_xml; }
+    bool covers(const alarm_layout& layout) const noexcept { return layout.inXml; }
 
 private:
     ui::event::xml_output& out_;
@@ -144,9 +144,9 @@ template <class Listing>
 void describe_unit_alarms(payload_cursor& in, Listing& listing)
 {
     const unit_alarm_record record = unit_alarm_record::read(in);
-    if (record.old_state != record.new_state)
-        listing.state_change(record.old_state, record.new_state);
-    const alarm_layout* layout = find_alarm_layout(record.device_type);
+    if (record.oldState != record.newState)
+        listing.state_change(record.oldState, record.newState);
+    const alarm_layout* layout = find_alarm_layout(record.deviceType);
     if (layout && listing.covers(*layout))
         list_changed_alarms(record, *layout, listing);
 }

@@ -19,11 +19,11 @@ struct alarm_group {
 };
 
 struct alarm_layout {
-    std::uint8_t device_type;
+    std::uint8_t deviceType;
     std::span<const alarm_group> groups;   // walked in this order
     std::span<const alarm_bit> demodulator;
     std::uint32_t demodulators;            // slots, each with a `demodulator` group
-    bool in_xml;                           // whether the XML form lists the bits at all
+    bool inXml;                           // whether the XML form lists the bits at all
 
     // Demodulator slot i (from 0) occupies these two bytes of the masks.
     static constexpr std::uint32_t first_slot_offset = 2;
@@ -82,7 +82,7 @@ static_assert(all_inside_masks());
 constexpr const alarm_layout* find_alarm_layout(std::uint8_t device_type) noexcept
 {
     for (const alarm_layout& layout : alarm_layouts::rows)
-        if (layout.device_type == device_type)
+        if (layout.deviceType == device_type)
             return &layout;
     return nullptr;
 }

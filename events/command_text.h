@@ -42,15 +42,15 @@ auto read_command_result(payload_cursor& in)
 // between two pieces.
 struct outcome_wording {
     wstring_view succeeded;
-    wstring_view failed_open;
-    wstring_view failed_close;
+    wstring_view failedOpen;
+    wstring_view failedClose;
 };
 
 template <text_sink Out, class Text>
 void write_outcome(Out& out, const command_result<Text>& result, const outcome_wording& wording)
 {
     if (result.failed())
-        out << wording.failed_open << result.error << wording.failed_close;
+        out << wording.failedOpen << result.error << wording.failedClose;
     else
         out << wording.succeeded;
 }
@@ -73,8 +73,8 @@ static_assert(values_are_positions(reset_type_names));
 // `suffix`; any other as its code in decimal between two pieces.
 struct reset_wording {
     wstring_view suffix;
-    wstring_view unknown_open;
-    wstring_view unknown_close;
+    wstring_view unknownOpen;
+    wstring_view unknownClose;
 };
 
 struct reset_type {
@@ -87,7 +87,7 @@ Out& operator<<(Out& out, const reset_type& type)
 {
     if (const OptionEntry* name = find_row(reset_type_names, type.code))
         return out << option_text(*name) << type.wording.suffix;
-    return out << type.wording.unknown_open << decimal(type.code) << type.wording.unknown_close;
+    return out << type.wording.unknownOpen << decimal(type.code) << type.wording.unknownClose;
 }
 
 // --- Blind mode -------------------------------------------------------------

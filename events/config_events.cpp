@@ -131,9 +131,9 @@ struct device_properties {
 struct unit_properties {
     std::uint32_t address;
     bool lockout;
-    bool unlock_mask;
+    bool unlockMask;
     bool heartbeat;
-    std::int32_t home_state_timeout;   // seconds
+    std::int32_t homeStateTimeout;   // seconds
     outcome result;
 
     static unit_properties read(payload_cursor& in)
@@ -180,7 +180,7 @@ struct home_state_change {
 struct unit_properties_v32 {
     std::uint32_t address;
     std::int32_t lockout;
-    std::int32_t unlock_mask;
+    std::int32_t unlockMask;
     payload_text result;
 
     static unit_properties_v32 read(payload_cursor& in)
@@ -220,9 +220,9 @@ void unit_properties_saved_xml(payload_cursor& in, xml_output& out)
     const unit_properties p = unit_properties::read(in);
     write_element_line(out, "IpAddress"_w, dotted_ipv4{p.address});
     write_element_line(out, "FrontPanelLockout"_w, lowercase_true_false(p.lockout));
-    write_element_line(out, "UnlockAlarmMask"_w, lowercase_true_false(p.unlock_mask));
+    write_element_line(out, "UnlockAlarmMask"_w, lowercase_true_false(p.unlockMask));
     write_element_line(out, "EnableHeartbeat"_w, lowercase_true_false(p.heartbeat));
-    write_element_line(out, "AutoHomeStateTimeout"_w, decimal(p.home_state_timeout));
+    write_element_line(out, "AutoHomeStateTimeout"_w, decimal(p.homeStateTimeout));
     write_result_line(out, p.result);
 }
 
@@ -231,8 +231,8 @@ colour unit_properties_saved_text(payload_cursor& in, text_output& out)
     const unit_properties p = unit_properties::read(in);
     // Deliberate: no blank after "IP:".
     out << "Unit properties saved - IP:"_w << dotted_ipv4{p.address}
-        << ", Front Panel Lock Out: "_w << on_off(p.lockout) << ", Unlock Alarm Mask: "_w << on_off(p.unlock_mask) << ", Heartbeat: "_w << on_off(p.heartbeat)
-        << ", Auto Home-state Timeout: "_w << decimal(p.home_state_timeout) << "s"_w;
+        << ", Front Panel Lock Out: "_w << on_off(p.lockout) << ", Unlock Alarm Mask: "_w << on_off(p.unlockMask) << ", Heartbeat: "_w << on_off(p.heartbeat)
+        << ", Auto Home-state Timeout: "_w << decimal(p.homeStateTimeout) << "s"_w;
     return end_with_outcome(out, p.result, inventory);
 }
 
@@ -407,7 +407,7 @@ void unit_properties_saved_v32_xml(payload_cursor& in, verbatim_xml_output& out)
     out << "<!-- Unit Properties Saved  -->\n"_w
         << "\t\t<IpAddress>"_w << dotted_ipv4{p.address} << "</IpAddress>\n"_w
         << "\t\t<FrontPanelLockOut>"_w << decimal(p.lockout) << "</FrontPanelLockOut>\n"_w
-        << "\t\t<UnlockAlarmMask>"_w << decimal(p.unlock_mask) << "</UnlockAlarmMask>\n"_w;
+        << "\t\t<UnlockAlarmMask>"_w << decimal(p.unlockMask) << "</UnlockAlarmMask>\n"_w;
     write_result_element_if_any(out, p.result);
 }
 
@@ -417,7 +417,7 @@ colour unit_properties_saved_v32_text(payload_cursor& in, text_output& out)
     // Deliberate: no blank after "IP:".
     out << "Unit properties saved - IP:"_w << dotted_ipv4{p.address} << ", "_w
         << "Front Panel Lock Out: "_w << on_off(p.lockout != 0) << ", "_w
-        << "Unlock Alarm Mask: "_w << on_off(p.unlock_mask != 0);
+        << "Unlock Alarm Mask: "_w << on_off(p.unlockMask != 0);
     write_if_any(out, ": "_w, p.result);
     return inventory;
 }

@@ -16,8 +16,8 @@ using family_a::section;
 // What the head of the payload selects: a family A record, or a record of a
 // unit family this module does not render.
 struct selection {
-    bool device_record;
-    std::uint8_t device_type;
+    bool deviceRecord;
+    std::uint8_t deviceType;
     std::uint8_t address;   // device records only
     std::optional<record_kind> record;
 };
@@ -72,7 +72,7 @@ record_kind select(payload_cursor& in)
     const std::uint8_t address = device_record ? in.read_u8() : 0;
     bool type_known = false;
     for (const selection& s : selections) {
-        if (s.device_record != device_record || s.device_type != type)
+        if (s.deviceRecord != device_record || s.deviceType != type)
             continue;
         type_known = true;
         if (device_record && s.address != address)

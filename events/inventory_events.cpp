@@ -143,8 +143,8 @@ struct network_notice {
     wstring_view sentence;
     render::colour colour;
     wstring_view comment;
-    bool names_network;   // the payload starts with a network ID
-    wstring_view network_indent;
+    bool namesNetwork;   // the payload starts with a network ID
+    wstring_view networkIndent;
 };
 
 // Deliberate, in every row: the doubled blank before "-->"; "from" missing in
@@ -165,10 +165,10 @@ template <const network_notice& Notice>
 void network_notice_renderers<Notice>::xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
 {
     out << Notice.comment;
-    if (Notice.names_network) {
+    if (Notice.namesNetwork) {
         const std::uint8_t network = in.read_u8();
         // Deliberate: the element name holds a blank.
-        out << Notice.network_indent << "<Network ID>"_w << decimal(network) << "</Network ID>\n"_w;
+        out << Notice.networkIndent << "<Network ID>"_w << decimal(network) << "</Network ID>\n"_w;
     }
     write_result_element_if_any(out, in.read_wstring());
 }
@@ -177,7 +177,7 @@ template <const network_notice& Notice>
 render::colour network_notice_renderers<Notice>::text(payload_cursor& in, ui::event::text_output& out)
 {
     // The sentence does not name the network; only the XML form shows it.
-    if (Notice.names_network)
+    if (Notice.namesNetwork)
         in.read_u8();
     out << Notice.sentence;
     write_if_any(out, ": "_w, in.read_wstring());

@@ -24,31 +24,31 @@ bool bit_of(const unit_alarm_record::mask& mask, std::size_t offset, std::int32_
 unit_alarm_record unit_alarm_record::read(payload_cursor& in)
 {
     unit_alarm_record record;
-    record.device_type = in.read_u8();
-    record.old_state = static_cast<render::alarm_state>(in.read_u32());
-    record.new_state = static_cast<render::alarm_state>(in.read_u32());
-    record.mask_length = in.read_u32();
-    if (record.mask_length > mask_capacity)
+    record.deviceType = in.read_u8();
+    record.oldState = static_cast<render::alarm_state>(in.read_u32());
+    record.newState = static_cast<render::alarm_state>(in.read_u32());
+    record.maskLength = in.read_u32();
+    if (record.maskLength > mask_capacity)
         throw io::underflow();
-    read_mask(in, record.mask_length, record.old_mask);
-    read_mask(in, record.mask_length, record.new_mask);
+    read_mask(in, record.maskLength, record.oldMask);
+    read_mask(in, record.maskLength, record.newMask);
     return record;
 }
 
 bool unit_alarm_record::changed(std::size_t offset, std::int32_t bit) const noexcept
 {
-    return bit_of(old_mask, offset, bit) != bit_of(new_mask, offset, bit);
+    return bit_of(oldMask, offset, bit) != bit_of(newMask, offset, bit);
 }
 
 bool unit_alarm_record::raised(std::size_t offset, std::int32_t bit) const noexcept
 {
-    return bit_of(new_mask, offset, bit);
+    return bit_of(newMask, offset, bit);
 }
 
 bool unit_alarm_record::bytes_changed(std::size_t offset, std::size_t count) const noexcept
 {
     for (std::size_t i = offset; i < offset + count && i < mask_capacity; ++i)
-        if (old_mask[i] != new_mask[i])
+        if (oldMask[i] != newMask[i])
             return true;
     return false;
 }

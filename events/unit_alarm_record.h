@@ -15,12 +15,12 @@ struct unit_alarm_record {
     static constexpr std::size_t mask_capacity = 64;
     using mask = std::array<std::uint8_t, mask_capacity>;
 
-    std::uint8_t device_type = 0;
-    render::alarm_state old_state{};
-    render::alarm_state new_state{};
-    std::uint32_t mask_length = 0;
-    mask old_mask{};   // bytes past mask_length stay clear
-    mask new_mask{};
+    std::uint8_t deviceType = 0;
+    render::alarm_state oldState{};
+    render::alarm_state newState{};
+    std::uint32_t maskLength = 0;
+    mask oldMask{};   // bytes past mask_length stay clear
+    mask newMask{};
 
     // Reads type, states, mask length and both masks; a mask longer than
     // mask_capacity or a payload too short for its fields is io::underflow.

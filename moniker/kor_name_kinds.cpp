@@ -197,7 +197,7 @@ constexpr kor_name_kind kinds[] = {
         .mac = true,
         .hash = mac_hash,
         .bind = KORPS_WITH_INTERFACES(bind_mac),
-        .read_from = KORPS_WITH_INTERFACES(mac_of),
+        .readFrom = KORPS_WITH_INTERFACES(mac_of),
     },
     {
         .form = "device at an IPv4 address",
@@ -206,7 +206,7 @@ constexpr kor_name_kind kinds[] = {
         .words = device_words,
         .hash = device_hash,
         .bind = KORPS_WITH_INTERFACES(bind_device),
-        .read_from = KORPS_WITH_INTERFACES(device_of),
+        .readFrom = KORPS_WITH_INTERFACES(device_of),
     },
     {
         .form = "device at an IPv4 address, extended",
@@ -217,7 +217,7 @@ constexpr kor_name_kind kinds[] = {
         .words = device_ex_words,
         .hash = device_ex_hash,
         .bind = KORPS_WITH_INTERFACES(bind_device_ex),
-        .read_from = KORPS_WITH_INTERFACES(device_ex_of),
+        .readFrom = KORPS_WITH_INTERFACES(device_ex_of),
     },
     {
         .form = "transponder",
@@ -227,7 +227,7 @@ constexpr kor_name_kind kinds[] = {
         .words = transponder_words,
         .hash = transponder_hash,
         .bind = KORPS_WITH_INTERFACES(bind_transponder),
-        .read_from = KORPS_WITH_INTERFACES(transponder_of),
+        .readFrom = KORPS_WITH_INTERFACES(transponder_of),
     },
 };
 static_assert(std::size(kinds) == KorName::Transponder + 1, "one row per kind, in kind order");

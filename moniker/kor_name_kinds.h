@@ -50,7 +50,7 @@ struct kor_name_kind {
     // getters that read its fields from another moniker of the class; null in
     // a build without the host's interfaces.
     HRESULT (*bind)(IKorBinder* binder, const KorName& name, const GUID& riid, void** ppv);
-    HRESULT (*read_from)(IKorMoniker* other, KorName& name);
+    HRESULT (*readFrom)(IKorMoniker* other, KorName& name);
 };
 
 // Every kind; a name's kind is its row's index.

@@ -15,7 +15,7 @@ class memory_hive final : public registry::hive {
 public:
     // Lower-case path -> value name -> data, all UTF-8.
     std::map<std::string, std::map<std::string, std::string>> keys;
-    int writes_before_failure = -1;   // -1: never fail
+    int writesBeforeFailure = -1;   // -1: never fail
 
     HRESULT create_key(wstring_view path) override
     {
@@ -80,6 +80,6 @@ public:
     }
 
 private:
-    bool write() { return writes_before_failure < 0 || writes_before_failure-- > 0; }
+    bool write() { return writesBeforeFailure < 0 || writesBeforeFailure-- > 0; }
     static std::string utf8(wstring_view text) { return platform::utf16_to_utf8(text, std::string::npos); }
 };

@@ -15,10 +15,10 @@ namespace {
 
 struct field {
     const char* name;
-    bool has_old;
-    std::uint8_t old_value;
-    bool has_new;
-    std::uint8_t new_value;
+    bool hasOld;
+    std::uint8_t oldValue;
+    bool hasNew;
+    std::uint8_t newValue;
 };
 
 const formats::option modulation{demod_options::modulation};
@@ -59,8 +59,8 @@ TEST(ChangeList, TextItemsRunOnOneLine)
         const std::string text = written([&](ui::event::text_output& out) {
             text_change_list list(out);
             for (const field& f : r.fields)
-                list.add({wide(std::string("key-") + f.name), wide(f.name)}, f.has_old, f.old_value, f.has_new,
-                         f.new_value, modulation);
+                list.add({wide(std::string("key-") + f.name), wide(f.name)}, f.hasOld, f.oldValue, f.hasNew,
+                         f.newValue, modulation);
         });
         EXPECT_EQ(text, r.text);
     }
@@ -72,8 +72,8 @@ TEST(ChangeList, XmlItemsAreParameterElements)
         const std::string xml = written<ui::event::xml_output>([&](ui::event::xml_output& out) {
             xml_change_list list(out);
             for (const field& f : r.fields)
-                list.add({wide(f.name), wide(std::string("display-") + f.name)}, f.has_old, f.old_value, f.has_new,
-                         f.new_value, modulation);
+                list.add({wide(f.name), wide(std::string("display-") + f.name)}, f.hasOld, f.oldValue, f.hasNew,
+                         f.newValue, modulation);
         });
         EXPECT_EQ(xml, r.xml);
     }

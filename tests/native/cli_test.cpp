@@ -12,7 +12,7 @@
 namespace {
 
 struct run_result {
-    int exit_code;
+    int exitCode;
     std::string output;
 };
 
@@ -35,7 +35,7 @@ TEST(CommandLine, ArgumentsMessagesAndExitCodes)
 {
     const struct {
         std::string arguments;
-        int exit_code;
+        int exitCode;
         std::string says;   // a piece of what it prints
     } cases[] = {
         {"--help", 0, "Subcommands:"},
@@ -77,7 +77,7 @@ TEST(CommandLine, ArgumentsMessagesAndExitCodes)
     };
     for (const auto& c : cases) {
         const run_result r = korps(c.arguments);
-        EXPECT_EQ(r.exit_code, c.exit_code) << "korps " << c.arguments << "\n" << r.output;
+        EXPECT_EQ(r.exitCode, c.exitCode) << "korps " << c.arguments << "\n" << r.output;
         EXPECT_NE(r.output.find(c.says), std::string::npos) << "korps " << c.arguments << "\n" << r.output;
     }
 }

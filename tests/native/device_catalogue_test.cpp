@@ -30,8 +30,8 @@ using table_of = std::span<const OptionEntry> demod_value_tables::*;
 TEST(DemodTables, LayoutSpecificTexts)
 {
     const demod_value_tables *r1 = &demod_tables_r1, *r2 = &demod_tables_r2, *r3 = &demod_tables_r3;
-    const table_of fec_rate = &demod_value_tables::fec_rate, fec_type = &demod_value_tables::fec_type,
-                   lnb = &demod_value_tables::lnb_power, band = &demod_value_tables::band;
+    const table_of fec_rate = &demod_value_tables::fecRate, fec_type = &demod_value_tables::fecType,
+                   lnb = &demod_value_tables::lnbPower, band = &demod_value_tables::band;
     const struct {
         const demod_value_tables* layout;
         table_of table;
@@ -55,10 +55,10 @@ TEST(DemodTables, LayoutSpecificTexts)
         {r3, lnb, 3, invalid},
         {r3, band, 0, WSTR("Dual Band")},
         {r3, band, 1, WSTR("Quad Band")},
-        {r1, &demod_value_tables::external_reference, 5, WSTR("20.0MHz")},
-        {r1, &demod_value_tables::config_slot, 9, WSTR("Config 9")},
-        {r3, &demod_value_tables::sample_interval, 9, WSTR("90 minutes")},
-        {r3, &demod_value_tables::roll_off, 5, WSTR("5%")},
+        {r1, &demod_value_tables::externalReference, 5, WSTR("20.0MHz")},
+        {r1, &demod_value_tables::configSlot, 9, WSTR("Config 9")},
+        {r3, &demod_value_tables::sampleInterval, 9, WSTR("90 minutes")},
+        {r3, &demod_value_tables::rollOff, 5, WSTR("5%")},
     };
     for (const auto& c : cases)
         EXPECT_EQ(text(lookup_option(c.layout->*c.table, c.value)), text(c.expected))

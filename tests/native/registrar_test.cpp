@@ -112,7 +112,7 @@ TEST(Registrar, AFailingRegistryLeavesNothingOfTheScriptBehind)
         ASSERT_LT(writes, 1000) << "registration never finishes";
         memory_hive hive;
         hive.create_key(WSTR("CLSID"));
-        hive.writes_before_failure = writes;
+        hive.writesBeforeFailure = writes;
         const HRESULT result = registry::register_script(moniker, hive);
         if (result == S_OK) {
             EXPECT_EQ(hive.dump(), whole.dump()) << "with room for " << writes << " writes";

@@ -90,7 +90,7 @@ TEST(Enumerator, NextAndSkipAtTheEdges)
         ULONG count;
         HRESULT result;
         ULONG fetched;     // for next
-        int first_row;     // for next: the row of the first record, -1 for none
+        int firstRow;     // for next: the row of the first record, -1 for none
     };
     const std::vector<std::vector<script_step>> scripts = {
         {{script_step::next, 40, S_OK, 40, 0}, {script_step::next, 1, S_FALSE, 0, -1}, {script_step::next, 0, S_OK, 0, -1}},
@@ -110,8 +110,8 @@ TEST(Enumerator, NextAndSkipAtTheEdges)
             case script_step::next:
                 EXPECT_EQ(e->Next(step.count, records.data(), &fetched), step.result) << "script " << s;
                 EXPECT_EQ(fetched, step.fetched) << "script " << s;
-                if (step.first_row >= 0) {
-                    EXPECT_EQ(std::memcmp(&records[0], &table[step.first_row], sizeof(EVENTUI)), 0);
+                if (step.firstRow >= 0) {
+                    EXPECT_EQ(std::memcmp(&records[0], &table[step.firstRow], sizeof(EVENTUI)), 0);
                 }
                 break;
             case script_step::skip:
