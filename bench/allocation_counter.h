@@ -9,4 +9,4 @@ namespace allocations {
 // Allocations so far, from every thread.
 std::uint64_t count() noexcept;
 
-} // namespace allocations
+}   // namespace allocations

@@ -18,7 +18,7 @@ struct ascii {
     wstring_view text;
 };
 
-} // namespace
+}   // namespace
 
 template <>
 struct fmt::formatter<ascii, wchar_t> {
@@ -44,8 +44,7 @@ struct ipv4 {
     unsigned a, b, c, d;
     explicit ipv4(std::uint32_t address)
         : a(address >> 24), b(address >> 16 & 0xFF), c(address >> 8 & 0xFF), d(address & 0xFF)
-    {
-    }
+    {}
 };
 
 ascii option_name(std::span<const OptionEntry> table, std::uint32_t value)
@@ -61,8 +60,9 @@ std::size_t unit_reset(std::span<const std::uint8_t> payload, wchar_t* out, std:
     const bool blind = in.read_u32() != 0;
     const bool failed = in.read_i32() != 0;
     return finish(out, capacity,
-                  fmt::format_to_n(out, capacity - 1, L"{} reset command {}{}", ascii{option_text(reset_type_names[type])},
-                                   blind ? L" in blind mode " : L"", failed ? L"failed." : L"succeeded."));
+                  fmt::format_to_n(out, capacity - 1, L"{} reset command {}{}",
+                                   ascii{option_text(reset_type_names[type])}, blind ? L" in blind mode " : L"",
+                                   failed ? L"failed." : L"succeeded."));
 }
 
 // "Hard Reset on subnet 10.1.0.0:255.255.0.0 succeeded."
@@ -74,8 +74,8 @@ std::size_t subnet_reset(std::span<const std::uint8_t> payload, wchar_t* out, st
     const bool failed = in.read_i32() != 0;
     return finish(out, capacity,
                   fmt::format_to_n(out, capacity - 1, L"{} Reset on subnet {}.{}.{}.{}:{}.{}.{}.{} {}",
-                                   ascii{option_text(reset_type_names[type])}, address.a, address.b, address.c, address.d, mask.a,
-                                   mask.b, mask.c, mask.d, failed ? L"failed." : L"succeeded."));
+                                   ascii{option_text(reset_type_names[type])}, address.a, address.b, address.c,
+                                   address.d, mask.a, mask.b, mask.c, mask.d, failed ? L"failed." : L"succeeded."));
 }
 
 // "The node 'osprey-192.168.0.10' was inserted into the network."
@@ -155,11 +155,11 @@ constexpr peer peers[] = {
     {"r1 demodulator, FEC rate 12 and LNB power 3", parameter_diff},
 };
 
-} // namespace
+}   // namespace
 
 std::span<const peer> all()
 {
     return peers;
 }
 
-} // namespace fmt_peers
+}   // namespace fmt_peers

@@ -20,4 +20,4 @@ struct peer {
 
 std::span<const peer> all();
 
-} // namespace fmt_peers
+}   // namespace fmt_peers

@@ -154,7 +154,7 @@ BENCHMARK(stream_save_load);
 // Times of the registered benchmarks, by name, as they are reported.
 class capture final : public benchmark::ConsoleReporter {
 public:
-    std::map<std::string, double> ns;                // per iteration
+    std::map<std::string, double> ns;   // per iteration
     std::map<std::string, double> items_per_second;
 
     void ReportRuns(const std::vector<Run>& runs) override
@@ -306,7 +306,7 @@ int run_workload(const std::string& form, const std::string& name, long calls)
     return 2;
 }
 
-} // namespace
+}   // namespace
 
 int main(int argc, char** argv)
 {

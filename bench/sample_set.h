@@ -52,4 +52,4 @@ inline std::vector<rendering> successful_renderings(const std::vector<samples::s
     return out;
 }
 
-} // namespace bench
+}   // namespace bench

@@ -43,7 +43,7 @@ double best_ns(Call call)
 
 volatile WCHAR sink;
 
-} // namespace
+}   // namespace
 
 int main(int argc, char** argv)
 {
@@ -56,7 +56,8 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "korps_floor: korps.dll did not load\n");
         return 1;
     }
-    const auto enumerate = reinterpret_cast<UI_EnumEVENTUI_t>(reinterpret_cast<void*>(GetProcAddress(module, "UI_EnumEVENTUI")));
+    const auto enumerate =
+        reinterpret_cast<UI_EnumEVENTUI_t>(reinterpret_cast<void*>(GetProcAddress(module, "UI_EnumEVENTUI")));
     const auto register_alarms = reinterpret_cast<RegisterAlarmTypeMap_t>(
         reinterpret_cast<void*>(GetProcAddress(module, "RegisterAlarmTypeMap")));
     samples::register_alarm_types(register_alarms);

@@ -15,7 +15,7 @@ com::error_info* describe(const std::exception& e) noexcept
     return platform::create_error_info(description);
 }
 
-} // namespace
+}   // namespace
 
 HRESULT exception_result(const std::exception& e) noexcept
 {

@@ -61,4 +61,4 @@ constexpr wchar* fixed_width(wchar* p, std::uint32_t value, unsigned width) noex
     return p + width;
 }
 
-} // namespace digits
+}   // namespace digits

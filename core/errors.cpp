@@ -20,10 +20,9 @@ std::string message_for(HRESULT code, error_info* info)
     return fallback;
 }
 
-} // namespace
+}   // namespace
 
-error::error(HRESULT code, error_info* info)
-    : std::runtime_error(message_for(code, info)), code_(code), info_(info)
+error::error(HRESULT code, error_info* info) : std::runtime_error(message_for(code, info)), code_(code), info_(info)
 {
     platform::add_ref(info_);
 }
@@ -38,7 +37,7 @@ error::~error()
     platform::release(info_);
 }
 
-} // namespace com
+}   // namespace com
 
 const char* wide_message_error::what() const noexcept
 {
@@ -58,8 +57,7 @@ const char* wide_message_error::what() const noexcept
     return cache_.get();
 }
 
-message_writer::message_writer(wchar* buffer, std::size_t size) noexcept
-    : cur_(buffer), room_(size > 1 ? size : 0)
+message_writer::message_writer(wchar* buffer, std::size_t size) noexcept : cur_(buffer), room_(size > 1 ? size : 0)
 {
     if (room_)
         *cur_ = 0;

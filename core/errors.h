@@ -31,7 +31,7 @@ public:
     underflow() : error(messages::underflow) {}
 };
 
-} // namespace io
+}   // namespace io
 
 namespace com {
 
@@ -58,7 +58,7 @@ private:
     error_info* info_;
 };
 
-} // namespace com
+}   // namespace com
 
 class not_expected : public std::logic_error {
 public:
@@ -72,7 +72,7 @@ public:
     integer_overflow() : std::overflow_error(messages::integer_overflow) {}
 };
 
-} // namespace text
+}   // namespace text
 
 // The errors that carry a wide message, made from its pieces on demand and
 // cut to the room of the buffer it is written to (the thread's error object
@@ -81,7 +81,11 @@ class wide_message_error : public std::exception {
 public:
     wide_message_error() = default;
     wide_message_error(const wide_message_error&) {}
-    wide_message_error& operator=(const wide_message_error&) { cache_.reset(); return *this; }
+    wide_message_error& operator=(const wide_message_error&)
+    {
+        cache_.reset();
+        return *this;
+    }
 
     // Writes the message into `buffer` (room for `size` units, NUL included).
     virtual void format(wchar* buffer, std::size_t size) const = 0;
@@ -112,10 +116,7 @@ template <>
 class generic_error_t<wchar_t> : public wide_message_error {
 public:
     explicit generic_error_t(wstring_view text) : text_(text) {}
-    void format(wchar* buffer, std::size_t size) const override
-    {
-        message_writer(buffer, size) << wstring_view(text_);
-    }
+    void format(wchar* buffer, std::size_t size) const override { message_writer(buffer, size) << wstring_view(text_); }
     const wstring& text() const noexcept { return text_; }
 
 private:
@@ -156,13 +157,13 @@ public:
     explicit unexpected_value(char value) : value_(value) {}
     void format(wchar* buffer, std::size_t size) const override
     {
-        message_writer(buffer, size) << messages::encountered_a << token_name<T>
-                                     << messages::with_an_unexpected_value_of << std::string_view(&value_, 1)
-                                     << messages::end_of_value;
+        message_writer(buffer, size) << messages::encountered_a
+                                     << token_name<T> << messages::with_an_unexpected_value_of
+                                     << std::string_view(&value_, 1) << messages::end_of_value;
     }
 
 private:
     char value_;
 };
 
-} // namespace io
+}   // namespace io

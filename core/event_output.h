@@ -29,7 +29,7 @@ public:
     using stream::stream;
 };
 
-} // namespace ui::event
+}   // namespace ui::event
 
 // An element on a line of its own in the structured dialect:
 // <name>value</name> and a line break.

@@ -9,10 +9,10 @@ namespace detail {
 
 consteval std::uint32_t hex_digit(char c)
 {
-    return c >= '0' && c <= '9' ? std::uint32_t(c - '0')
-         : c >= 'a' && c <= 'f' ? std::uint32_t(c - 'a' + 10)
-         : c >= 'A' && c <= 'F' ? std::uint32_t(c - 'A' + 10)
-         : throw "not a hexadecimal digit";
+    return c >= '0' && c <= '9'   ? std::uint32_t(c - '0')
+           : c >= 'a' && c <= 'f' ? std::uint32_t(c - 'a' + 10)
+           : c >= 'A' && c <= 'F' ? std::uint32_t(c - 'A' + 10)
+                                  : throw "not a hexadecimal digit";
 }
 
 consteval std::uint32_t hex_field(const char* text, int digits)
@@ -23,7 +23,7 @@ consteval std::uint32_t hex_field(const char* text, int digits)
     return value;
 }
 
-} // namespace detail
+}   // namespace detail
 
 // "9f74e20a-4198-4269-bdc7-c0a02be22131", without braces.
 consteval GUID make_guid(const char (&text)[37])

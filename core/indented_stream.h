@@ -28,10 +28,12 @@ class output_stream {
 public:
     template <class... Args>
     explicit output_stream(Args&&... args) : base_(std::forward<Args>(args)...)
-    {
-    }
+    {}
 
-    void write(const Char* s, std::size_t n) { write_lines(s, n, [this](auto... a) { base_.write(a...); }); }
+    void write(const Char* s, std::size_t n)
+    {
+        write_lines(s, n, [this](auto... a) { base_.write(a...); });
+    }
     void write_ansi(const char* s, std::size_t n)
     {
         write_lines(s, n, [this](auto... a) { base_.write_ansi(a...); });
@@ -77,4 +79,4 @@ private:
     Base base_;
 };
 
-} // namespace io::text::indented
+}   // namespace io::text::indented

@@ -18,14 +18,12 @@ struct interface_entry {
 template <class Object, class Interface, class Via = Interface>
 constexpr interface_entry<Object> interface_row(const IID& iid) noexcept
 {
-    return {&iid, [](Object* object) noexcept -> IUnknown* {
-                return static_cast<Interface*>(static_cast<Via*>(object));
-            }};
+    return {&iid,
+            [](Object* object) noexcept -> IUnknown* { return static_cast<Interface*>(static_cast<Via*>(object)); }};
 }
 
 template <class Object, std::size_t Rows>
-HRESULT query_interface(Object* object, const interface_entry<Object> (&map)[Rows], REFIID riid,
-                        void** ppv) noexcept
+HRESULT query_interface(Object* object, const interface_entry<Object> (&map)[Rows], REFIID riid, void** ppv) noexcept
 {
     if (!ppv)
         return E_POINTER;

@@ -11,7 +11,7 @@ namespace messages {
 
 // --- Payloads and output buffers ---------------------------------------------
 
-inline constexpr const char* overflow = "an overflow occured";     // as the system spells it
+inline constexpr const char* overflow = "an overflow occured";   // as the system spells it
 inline constexpr const char* underflow = "an underflow occured";   // as the system spells it
 inline constexpr wstring_view decimal_overflow = "decimal overflow"_w;
 inline constexpr wstring_view unit_family_not_supported =
@@ -49,4 +49,4 @@ inline constexpr std::string_view with_an_unexpected_value_of =
 inline constexpr std::string_view end_of_value = "'.";
 inline constexpr std::string_view end_of_sentence = ".";
 
-} // namespace messages
+}   // namespace messages

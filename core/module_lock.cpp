@@ -22,4 +22,4 @@ long lock_count() noexcept
     return locks.load(std::memory_order_acquire);
 }
 
-} // namespace lifetime
+}   // namespace lifetime

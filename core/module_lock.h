@@ -17,4 +17,4 @@ public:
     lock_guard& operator=(const lock_guard&) = delete;
 };
 
-} // namespace lifetime
+}   // namespace lifetime

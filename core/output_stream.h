@@ -93,12 +93,13 @@ private:
     std::size_t counted_ = 0;   // the counting form only
 };
 
-} // namespace io::text
+}   // namespace io::text
 
 // Every form of the buffer takes text with <<: UTF-16 views, NUL-terminated
 // UTF-16 and run-time narrow text. A narrow literal does not compile.
 template <class Out>
-concept text_sink = requires(Out& out, const wchar* s, const char* a, std::size_t n) {
+concept text_sink = requires(Out& out, const wchar* s, const char* a, std::size_t n)
+{
     out.write(s, n);
     out.write_ansi(a, n);
 };

@@ -38,8 +38,7 @@ class payload_cursor {
 public:
     payload_cursor(const void* payload, std::size_t bytes) noexcept
         : begin(static_cast<const std::uint8_t*>(payload)), cur(begin), end(begin + bytes)
-    {
-    }
+    {}
 
     std::size_t remaining() const noexcept { return static_cast<std::size_t>(end - cur); }
 

@@ -55,4 +55,4 @@ inline std::string take_error_description()
 void* task_alloc(std::size_t bytes) noexcept;
 void task_free(void* block) noexcept;
 
-} // namespace platform
+}   // namespace platform

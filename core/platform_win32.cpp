@@ -20,8 +20,8 @@ void widen_ansi(const char* text, std::size_t n, wchar* out) noexcept
         ++i;
     }
     if (i < n) {
-        const int done = MultiByteToWideChar(CP_ACP, 0, text + i, static_cast<int>(n - i), out + i,
-                                             static_cast<int>(n - i));
+        const int done =
+            MultiByteToWideChar(CP_ACP, 0, text + i, static_cast<int>(n - i), out + i, static_cast<int>(n - i));
         for (std::size_t k = i + (done > 0 ? static_cast<std::size_t>(done) : 0); k < n; ++k)
             out[k] = L'?';
     }
@@ -57,8 +57,8 @@ std::string utf16_to_utf8(wstring_view text, std::size_t limit)
 {
     if (text.empty())
         return {};
-    const int needed = WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0,
-                                           nullptr, nullptr);
+    const int needed =
+        WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0, nullptr, nullptr);
     if (needed <= 0)
         return {};
     std::string result(static_cast<std::size_t>(needed), '\0');
@@ -79,10 +79,9 @@ std::string system_message(HRESULT code)
     // The system's own text, cut to 260 bytes like every message of the
     // module, without its trailing line break.
     char* text = nullptr;
-    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS |
-                                            FORMAT_MESSAGE_ALLOCATE_BUFFER,
-                                        nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<char*>(&text), 0,
-                                        nullptr);
+    const DWORD length =
+        FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_ALLOCATE_BUFFER,
+                       nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<char*>(&text), 0, nullptr);
     std::string message(text ? text : "", text ? std::min<DWORD>(length, 259) : 0);
     LocalFree(text);
     while (!message.empty() && (message.back() == '\n' || message.back() == '\r'))
@@ -151,4 +150,4 @@ void task_free(void* block) noexcept
     CoTaskMemFree(block);
 }
 
-} // namespace platform
+}   // namespace platform

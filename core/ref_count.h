@@ -34,4 +34,4 @@ private:
     std::atomic<unsigned long> refs_;
 };
 
-} // namespace lifetime
+}   // namespace lifetime

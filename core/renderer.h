@@ -18,12 +18,11 @@
 #include "core/payload_cursor.h"
 #include "core/win_types.h"
 
-using EventXmlRenderer = HRESULT(KORPS_STDCALL*)(void* context, std::uint32_t payloadBytes,
-                                                 const std::uint8_t* payload, wchar* buffer,
-                                                 std::uint32_t capacity);
+using EventXmlRenderer = HRESULT(KORPS_STDCALL*)(void* context, std::uint32_t payloadBytes, const std::uint8_t* payload,
+                                                 wchar* buffer, std::uint32_t capacity);
 using EventTextRenderer = HRESULT(KORPS_STDCALL*)(void* context, std::uint32_t payloadBytes,
-                                                  const std::uint8_t* payload, wchar* buffer,
-                                                  std::uint32_t capacity, std::uint32_t* colour);
+                                                  const std::uint8_t* payload, wchar* buffer, std::uint32_t capacity,
+                                                  std::uint32_t* colour);
 
 namespace render {
 
@@ -35,10 +34,7 @@ struct any_size {
 
 template <std::size_t Bytes>
 struct exact_size {
-    static constexpr bool accepts(std::span<const std::uint8_t> payload) noexcept
-    {
-        return payload.size() == Bytes;
-    }
+    static constexpr bool accepts(std::span<const std::uint8_t> payload) noexcept { return payload.size() == Bytes; }
 };
 
 namespace detail {
@@ -84,7 +80,7 @@ HRESULT checked_run(bool arguments_present, std::uint32_t payloadBytes, const st
     });
 }
 
-} // namespace detail
+}   // namespace detail
 
 // An XML renderer whose body writes `Dialect`: ui::event::verbatim_xml_output
 // or ui::event::xml_output. The table names the dialect, the body's parameter
@@ -117,8 +113,7 @@ HRESULT KORPS_STDCALL text_renderer(void*, std::uint32_t payloadBytes, const std
 // rendering into the counting form of its output: nothing is written. The
 // result is what the renderer returns for the same payload with room enough,
 // and `units` is set only on success.
-using room_function = HRESULT (*)(std::uint32_t payloadBytes, const std::uint8_t* payload,
-                                  std::size_t* units) noexcept;
+using room_function = HRESULT (*)(std::uint32_t payloadBytes, const std::uint8_t* payload, std::size_t* units) noexcept;
 
 template <auto Body, class Size = any_size>
 HRESULT room_needed(std::uint32_t payloadBytes, const std::uint8_t* payload, std::size_t* units) noexcept
@@ -148,4 +143,4 @@ inline constexpr form<EventTextRenderer> text_form{text_renderer<Body, Size>, ro
 // The form of an event type that has no XML.
 inline constexpr form<EventXmlRenderer> no_xml_form{};
 
-} // namespace render
+}   // namespace render

@@ -15,8 +15,7 @@
 struct decimal {
     template <class Int>
     constexpr explicit decimal(Int v) noexcept : negative(v < 0), magnitude(magnitude_of(v))
-    {
-    }
+    {}
 
     bool negative;
     std::uint64_t magnitude;

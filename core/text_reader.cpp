@@ -12,7 +12,7 @@ constexpr bool is_digit(wchar c) noexcept
     return c >= '0' && c <= '9';
 }
 
-} // namespace
+}   // namespace
 
 bool ascii_equal(wstring_view wide, std::string_view ascii) noexcept
 {

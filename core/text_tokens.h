@@ -45,7 +45,7 @@ constexpr spelled_name spell(Pieces... pieces)
     return name;
 }
 
-} // namespace detail
+}   // namespace detail
 
 // The name of a token type in messages: its own `name`, or for the plain
 // types a reader is asked for, the name the messages have always given them.
@@ -91,7 +91,6 @@ struct identifier {
 template <class Type, int Radix, int Digits, class Tag>
 struct integer {
     static_assert(Radix >= 2 && Digits >= 0);
-    static constexpr detail::spelled_name name =
-        detail::spell("integer<", token_name<Type>, ", ", std::size_t(Radix), ", ", std::size_t(Digits), ", ",
-                      token_name<Tag>, ">");
+    static constexpr detail::spelled_name name = detail::spell("integer<", token_name<Type>, ", ", std::size_t(Radix),
+                                                               ", ", std::size_t(Digits), ", ", token_name<Tag>, ">");
 };

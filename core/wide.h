@@ -11,10 +11,10 @@
 
 #ifdef _WIN32
 using wchar = wchar_t;
-#  define KORPS_WIDEN_(s) L##s
+#define KORPS_WIDEN_(s) L##s
 #else
 using wchar = char16_t;
-#  define KORPS_WIDEN_(s) u##s
+#define KORPS_WIDEN_(s) u##s
 #endif
 #define WSTR(s) KORPS_WIDEN_(s)
 
@@ -45,7 +45,7 @@ struct ascii {
     }
 };
 
-} // namespace wide_literal
+}   // namespace wide_literal
 
 template <wide_literal::ascii Text>
 constexpr wstring_view operator""_w()

@@ -20,8 +20,7 @@ class stream {
 public:
     template <class... Args>
     explicit stream(Args&&... args) : lines_(std::forward<Args>(args)...)
-    {
-    }
+    {}
 
     void write(const Char* s, std::size_t n)
     {
@@ -81,7 +80,8 @@ public:
     template <class Value>
     void element(wstring_view name, const Value& value, wstring_view after = {})
     {
-        element_with(name, [&] { *this << value; }, after);
+        element_with(
+            name, [&] { *this << value; }, after);
     }
 
     // The same with whatever `content` writes between the tags; the end tag
@@ -130,4 +130,4 @@ private:
     std::size_t depth_ = 0;
 };
 
-} // namespace io::xml::output
+}   // namespace io::xml::output

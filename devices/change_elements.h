@@ -42,8 +42,8 @@ void value_line(ui::event::xml_output& out, wstring_view name, WriteValue&& writ
 
 // The same with an attribute: `<name attribute="value">...</name>`.
 template <class WriteValue>
-void value_line(ui::event::xml_output& out, wstring_view name, wstring_view attribute,
-                wstring_view attribute_value, WriteValue&& write_value)
+void value_line(ui::event::xml_output& out, wstring_view name, wstring_view attribute, wstring_view attribute_value,
+                WriteValue&& write_value)
 {
     out.open_element(name);
     out.attribute(attribute, attribute_value);
@@ -59,4 +59,4 @@ void old_and_new(ui::event::xml_output& out, WriteValue&& write_value)
     value_line(out, "new-value"_w, write_value);
 }
 
-} // namespace change_sets
+}   // namespace change_sets

@@ -82,7 +82,8 @@ private:
         if (!present)
             return;
         out_ << "\t"_w;
-        out_.element_with(element, [&] { format(out_, value); }, "\n"_w);
+        out_.element_with(
+            element, [&] { format(out_, value); }, "\n"_w);
     }
 
     ui::event::xml_output& out_;

@@ -95,7 +95,7 @@ void write_section(payload_cursor& in, ui::event::xml_output& out, const section
     close_line(out);
 }
 
-} // namespace
+}   // namespace
 
 void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set)
 {
@@ -103,4 +103,4 @@ void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set
     for_each_set_bit(mask, set.sections, [&](const section& s, std::size_t) { write_section(in, out, s); });
 }
 
-} // namespace change_sets
+}   // namespace change_sets

@@ -15,12 +15,12 @@ namespace change_sets {
 // How a section's old and new value lie in the payload.
 enum class body : std::uint8_t {
     wide_text,   // i16 count, then that many UTF-16 units; 0 or less is empty
-    byte,        // u8, in decimal
-    unsigned32,  // u32, in decimal
-    signed32,    // i32, in decimal
-    ipv4,        // u32, dotted, most significant byte first
-    routes_a,    // route list of layout A (no old and new value: see routes.h)
-    routes_b,    // route list of layout B
+    byte,   // u8, in decimal
+    unsigned32,   // u32, in decimal
+    signed32,   // i32, in decimal
+    ipv4,   // u32, dotted, most significant byte first
+    routes_a,   // route list of layout A (no old and new value: see routes.h)
+    routes_b,   // route list of layout B
 };
 
 struct section {
@@ -37,4 +37,4 @@ struct change_set {
 // is set, in bit order. Bits past the last section read nothing.
 void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set);
 
-} // namespace change_sets
+}   // namespace change_sets

@@ -22,7 +22,7 @@ std::int64_t signed_as(bool negative, std::uint64_t magnitude) noexcept
     return negative ? -m : m;
 }
 
-} // namespace
+}   // namespace
 
 decimal_value decimal_value::from(std::int64_t mantissa, unsigned places)
 {

@@ -53,26 +53,15 @@ inline constexpr OptionEntry inversion[] = {
 };
 
 inline constexpr OptionEntry modulation[] = {
-    OPTION("BPSK", 0),
-    OPTION("QPSK", 1),
-    OPTION("OQPSK", 2),
-    OPTION("8PSK", 3),
-    OPTION("16-QAM", 4),
-    OPTION("8-QAM", 5),
+    OPTION("BPSK", 0), OPTION("QPSK", 1),   OPTION("OQPSK", 2),
+    OPTION("8PSK", 3), OPTION("16-QAM", 4), OPTION("8-QAM", 5),
 };
 
 // R3 lists; the older layouts know only the leading part (see below).
 inline constexpr OptionEntry fec_type[] = {
-    OPTION("None", 0),
-    OPTION("Viterbi", 1),
-    OPTION("Viterbi+RS", 2),
-    OPTION("Sequential", 3),
-    OPTION("Sequential+RS", 4),
-    OPTION("TCM+RS", 5),
-    OPTION("Turbo", 6),
-    OPTION("Reserved", 7),
-    OPTION("NimbleFEC CCM", 8),
-    OPTION("NimbleFEC ULL", 9),
+    OPTION("None", 0),          OPTION("Viterbi", 1),       OPTION("Viterbi+RS", 2), OPTION("Sequential", 3),
+    OPTION("Sequential+RS", 4), OPTION("TCM+RS", 5),        OPTION("Turbo", 6),      OPTION("Reserved", 7),
+    OPTION("NimbleFEC CCM", 8), OPTION("NimbleFEC ULL", 9),
 };
 
 inline constexpr OptionEntry fec_rate[] = {
@@ -121,38 +110,19 @@ inline constexpr OptionEntry lnb_power[] = {
 };
 
 inline constexpr OptionEntry config_slot[] = {
-    OPTION("Config 0", 0),
-    OPTION("Config 1", 1),
-    OPTION("Config 2", 2),
-    OPTION("Config 3", 3),
-    OPTION("Config 4", 4),
-    OPTION("Config 5", 5),
-    OPTION("Config 6", 6),
-    OPTION("Config 7", 7),
-    OPTION("Config 8", 8),
-    OPTION("Config 9", 9),
+    OPTION("Config 0", 0), OPTION("Config 1", 1), OPTION("Config 2", 2), OPTION("Config 3", 3), OPTION("Config 4", 4),
+    OPTION("Config 5", 5), OPTION("Config 6", 6), OPTION("Config 7", 7), OPTION("Config 8", 8), OPTION("Config 9", 9),
 };
 
 inline constexpr OptionEntry sample_interval[] = {
-    OPTION("Off", 0),
-    OPTION("10 minutes", 1),
-    OPTION("20 minutes", 2),
-    OPTION("30 minutes", 3),
-    OPTION("40 minutes", 4),
-    OPTION("50 minutes", 5),
-    OPTION("60 minutes", 6),
-    OPTION("70 minutes", 7),
-    OPTION("80 minutes", 8),
-    OPTION("90 minutes", 9),
+    OPTION("Off", 0),        OPTION("10 minutes", 1), OPTION("20 minutes", 2), OPTION("30 minutes", 3),
+    OPTION("40 minutes", 4), OPTION("50 minutes", 5), OPTION("60 minutes", 6), OPTION("70 minutes", 7),
+    OPTION("80 minutes", 8), OPTION("90 minutes", 9),
 };
 
 inline constexpr OptionEntry external_reference[] = {
-    OPTION("Internal", 0),
-    OPTION("1.0MHz", 1),
-    OPTION("2.0MHz", 2),
-    OPTION("5.0MHz", 3),
-    OPTION("10.0MHz", 4),
-    OPTION("20.0MHz", 5),
+    OPTION("Internal", 0), OPTION("1.0MHz", 1),  OPTION("2.0MHz", 2),
+    OPTION("5.0MHz", 3),   OPTION("10.0MHz", 4), OPTION("20.0MHz", 5),
 };
 
 // Quad band first: the units report it that way and the order is kept.
@@ -167,20 +137,14 @@ inline constexpr OptionEntry unit_kind[] = {
 };
 
 inline constexpr OptionEntry roll_off[] = {
-    OPTION("35%", 0),
-    OPTION("25%", 1),
-    OPTION("20%", 2),
-    OPTION("15%", 3),
-    OPTION("10%", 4),
-    OPTION("5%", 5),
+    OPTION("35%", 0), OPTION("25%", 1), OPTION("20%", 2), OPTION("15%", 3), OPTION("10%", 4), OPTION("5%", 5),
 };
 
 // The rows of `table` up to and including the one that names `last`: an older
 // layout's view of a list that newer units extended at the end. Naming the
 // last value rather than a row count keeps the cut right if rows are edited;
 // a value not in the table stops the build.
-consteval std::span<const OptionEntry> rows_through(std::span<const OptionEntry> table,
-                                                    std::uint32_t last)
+consteval std::span<const OptionEntry> rows_through(std::span<const OptionEntry> table, std::uint32_t last)
 {
     for (std::size_t i = 0; i < table.size(); ++i)
         if (table[i].value == last)
@@ -208,7 +172,7 @@ static_assert(values_unique(band));
 static_assert(values_unique(unit_kind));
 static_assert(values_unique(roll_off));
 
-} // namespace demod_options
+}   // namespace demod_options
 
 // The tables one record layout shows its coded fields with.
 struct demod_value_tables {

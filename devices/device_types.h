@@ -13,36 +13,15 @@
 // Every known device type, once: its name in code, its key, its code. Rows
 // stand in the order the management server has always listed them; lookup
 // takes the first match, so the order is kept as it is.
-#define KORPS_DEVICE_TYPES(row)      \
-    row(none, "none", 0)             \
-    row(fcn1l, "fcn1l", 52)          \
-    row(fcn1i, "fcn1i", 53)          \
-    row(fcn2l, "fcn2l", 180)         \
-    row(fcn2i, "fcn2i", 181)         \
-    row(fcn3i, "fcn3i", 54)          \
-    row(fcn3l, "fcn3l", 55)          \
-    row(fcn4i, "fcn4i", 57)          \
-    row(fcn4l, "fcn4l", 56)          \
-    row(fcn1al, "fcn1al", 88)        \
-    row(fcn3al, "fcn3al", 94)        \
-    row(osprey, "osprey", 58)        \
-    row(hrn1, "hrn1", 59)            \
-    row(hrn2, "hrn2", 89)            \
-    row(hrn3, "hrn3", 60)            \
-    row(hrn4, "hrn4", 91)            \
-    row(hrn0, "hrn0", 61)            \
-    row(kt1, "kt1", 97)              \
-    row(kts, "kts", 99)              \
-    row(ktm, "ktm", 100)             \
-    row(kt4, "kt4", 102)             \
-    row(kt8, "kt8", 103)             \
-    row(kt16, "kt16", 104)           \
-    row(kt32, "kt32", 105)           \
-    row(kt64, "kt64", 106)           \
-    row(kt_pro, "kt-pro", 109)       \
-    row(kt_plus, "kt-plus", 118)     \
-    row(kt_mini, "kt-mini", 120)     \
-    row(gull, "gull", 128)
+#define KORPS_DEVICE_TYPES(row)                                                                                        \
+    row(none, "none", 0) row(fcn1l, "fcn1l", 52) row(fcn1i, "fcn1i", 53) row(fcn2l, "fcn2l", 180)                      \
+        row(fcn2i, "fcn2i", 181) row(fcn3i, "fcn3i", 54) row(fcn3l, "fcn3l", 55) row(fcn4i, "fcn4i", 57)               \
+            row(fcn4l, "fcn4l", 56) row(fcn1al, "fcn1al", 88) row(fcn3al, "fcn3al", 94) row(osprey, "osprey", 58)      \
+                row(hrn1, "hrn1", 59) row(hrn2, "hrn2", 89) row(hrn3, "hrn3", 60) row(hrn4, "hrn4", 91)                \
+                    row(hrn0, "hrn0", 61) row(kt1, "kt1", 97) row(kts, "kts", 99) row(ktm, "ktm", 100)                 \
+                        row(kt4, "kt4", 102) row(kt8, "kt8", 103) row(kt16, "kt16", 104) row(kt32, "kt32", 105)        \
+                            row(kt64, "kt64", 106) row(kt_pro, "kt-pro", 109) row(kt_plus, "kt-plus", 118)             \
+                                row(kt_mini, "kt-mini", 120) row(gull, "gull", 128)
 
 namespace device_types {
 
@@ -53,7 +32,7 @@ enum code : std::uint8_t {
 #undef KORPS_DEVICE_TYPE_CODE
 };
 
-} // namespace device_types
+}   // namespace device_types
 
 inline constexpr OptionEntry DeviceTypeKeys[] = {
 #define KORPS_DEVICE_TYPE_KEY(name, key, value) OPTION(key, device_types::name),

@@ -26,14 +26,14 @@ enum class section : std::uint8_t { unit, demodulator };
 
 // What a field holds on the wire and how it is shown.
 enum class value : std::uint8_t {
-    text,         // u16 count and UTF-16 units, below 260
-    number,       // u32, decimal
-    temperature,  // u8, a signed byte of degrees Celsius
-    option,       // u8 through the layout's value table
-    scaled,       // i32 or u32 through a field scale (see `is_signed`)
+    text,   // u16 count and UTF-16 units, below 260
+    number,   // u32, decimal
+    temperature,   // u8, a signed byte of degrees Celsius
+    option,   // u8 through the layout's value table
+    scaled,   // i32 or u32 through a field scale (see `is_signed`)
     time_stamp,   // u32 seconds since 1970, UTC
-    address,      // u32, dotted
-    mac,          // u64, decimal
+    address,   // u32, dotted
+    mac,   // u64, decimal
 };
 
 // Where a layout keeps a field: its section and group, or nowhere.
@@ -44,17 +44,23 @@ struct slot {
 };
 
 inline constexpr slot no{};
-constexpr slot unit(std::uint8_t group) { return {true, section::unit, group}; }
-constexpr slot demod(std::uint8_t group) { return {true, section::demodulator, group}; }
+constexpr slot unit(std::uint8_t group)
+{
+    return {true, section::unit, group};
+}
+constexpr slot demod(std::uint8_t group)
+{
+    return {true, section::demodulator, group};
+}
 
 struct field {
-    wstring_view key;       // XML `id`
+    wstring_view key;   // XML `id`
     wstring_view display;   // text form
     value kind;
     std::span<const OptionEntry> demod_value_tables::*table = nullptr;   // for `option`
-    field_scale scale{};                                                  // for `scaled`
-    bool isSigned = false;                                               // for `scaled`
-    std::array<slot, layouts> at{};                                       // R1, R2, R3
+    field_scale scale{};   // for `scaled`
+    bool isSigned = false;   // for `scaled`
+    std::array<slot, layouts> at{};   // R1, R2, R3
 };
 
 using tables = demod_value_tables;
@@ -62,8 +68,8 @@ using tables = demod_value_tables;
 // Scaled readings that go below zero on the wire.
 inline constexpr bool signed_reading = true;
 
-constexpr field opt(wstring_view key, wstring_view display,
-                    std::span<const OptionEntry> tables::*table, std::array<slot, layouts> at)
+constexpr field opt(wstring_view key, wstring_view display, std::span<const OptionEntry> tables::*table,
+                    std::array<slot, layouts> at)
 {
     return {key, display, value::option, table, {}, false, at};
 }
@@ -183,7 +189,7 @@ inline constexpr std::uint8_t groups_per_section = 9;
 
 // The value tables of each layout, in layout order.
 inline constexpr const demod_value_tables* value_tables[layouts] = {&demod_tables_r1, &demod_tables_r2,
-                                                                     &demod_tables_r3};
+                                                                    &demod_tables_r3};
 
 // --- Checks of the table ------------------------------------------------------
 
@@ -225,7 +231,7 @@ static_assert(group_size(r2, section::unit, 0) == 0, "R2 has no unit section");
 
 struct group {
     std::array<std::uint8_t, 8> fieldIndex{};   // into `fields`, bit order
-    std::uint8_t count = 0;                       // 0: the layout has no such group
+    std::uint8_t count = 0;   // 0: the layout has no such group
 
     constexpr std::span<const std::uint8_t> members() const { return {fieldIndex.data(), count}; }
 };
@@ -254,4 +260,4 @@ inline constexpr section_groups record_groups[layouts][2] = {
 
 static_assert(std::size(fields) < 256, "groups index fields with a byte");
 
-} // namespace family_a
+}   // namespace family_a

@@ -162,7 +162,7 @@ void walk(payload_cursor& in, List& list, record_kind record)
     }
 }
 
-} // namespace
+}   // namespace
 
 void write_changes(payload_cursor& in, text_change_list& list, record_kind record)
 {
@@ -174,4 +174,4 @@ void write_changes(payload_cursor& in, xml_change_list& list, record_kind record
     walk(in, list, record);
 }
 
-} // namespace family_a
+}   // namespace family_a

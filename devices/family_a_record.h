@@ -20,4 +20,4 @@ struct record_kind {
 void write_changes(payload_cursor& in, text_change_list& list, record_kind record);
 void write_changes(payload_cursor& in, xml_change_list& list, record_kind record);
 
-} // namespace family_a
+}   // namespace family_a

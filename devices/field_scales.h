@@ -16,12 +16,12 @@ struct field_scale {
 
 namespace scales {
 
-inline constexpr unsigned frequency_places = 0;          // whole hertz
-inline constexpr unsigned data_rate_places = 0;          // whole bits per second
-inline constexpr unsigned symbol_rate_places = 0;        // whole symbols per second
-inline constexpr unsigned signal_level_places = 1;       // tenths of a dBm
-inline constexpr unsigned ebno_places = 1;               // tenths of a dB
-inline constexpr unsigned lnb_current_places = 0;        // whole milliamperes
+inline constexpr unsigned frequency_places = 0;   // whole hertz
+inline constexpr unsigned data_rate_places = 0;   // whole bits per second
+inline constexpr unsigned symbol_rate_places = 0;   // whole symbols per second
+inline constexpr unsigned signal_level_places = 1;   // tenths of a dBm
+inline constexpr unsigned ebno_places = 1;   // tenths of a dB
+inline constexpr unsigned lnb_current_places = 0;   // whole milliamperes
 inline constexpr unsigned lnb_lo_frequency_places = 0;   // whole megahertz
 
 // Frequencies, frequency offsets and sweep ranges.
@@ -34,4 +34,4 @@ inline constexpr field_scale ebno{units::ratio, ebno_places};
 inline constexpr field_scale lnb_current{units::current, lnb_current_places};
 inline constexpr field_scale lnb_lo_frequency{units::fixed_megahertz, lnb_lo_frequency_places};
 
-} // namespace scales
+}   // namespace scales

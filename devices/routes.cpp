@@ -71,7 +71,7 @@ void write_modified_entries(payload_cursor& in, ui::event::xml_output& out, std:
     }
 }
 
-} // namespace
+}   // namespace
 
 void write_route_lists(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout)
 {
@@ -80,4 +80,4 @@ void write_route_lists(payload_cursor& in, ui::event::xml_output& out, std::span
     write_whole_entries(in, out, layout, "added-element"_w);
 }
 
-} // namespace routes
+}   // namespace routes

@@ -42,9 +42,14 @@ inline constexpr field layout_a[] = {
 };
 
 inline constexpr field layout_b[] = {
-    {"Enabled"_w, switch_states},  {"Network"_w, {}},         {"Mask"_w, {}},
-    {"Gateway"_w, {}},             {"Interface"_w, interfaces}, {"HeaderComp"_w, switch_states},
-    {"PayloadComp"_w, switch_states}, {"Encrypt"_w, switch_states},
+    {"Enabled"_w, switch_states},
+    {"Network"_w, {}},
+    {"Mask"_w, {}},
+    {"Gateway"_w, {}},
+    {"Interface"_w, interfaces},
+    {"HeaderComp"_w, switch_states},
+    {"PayloadComp"_w, switch_states},
+    {"Encrypt"_w, switch_states},
 };
 
 static_assert(std::size(layout_b) <= 16, "a modified route's field mask has 16 bits");
@@ -52,4 +57,4 @@ static_assert(std::size(layout_b) <= 16, "a modified route's field mask has 16 b
 // Writes the three lists of a route table of the given layout.
 void write_route_lists(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout);
 
-} // namespace routes
+}   // namespace routes

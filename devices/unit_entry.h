@@ -13,7 +13,7 @@ struct UnitEntry {
     std::uint64_t multiplier;
 };
 
-#define UNIT(text, multiplier) UnitEntry{text, WSTR(text), (multiplier)}
+#define UNIT(text, multiplier) (UnitEntry{text, WSTR(text), (multiplier)})
 
 // Unit rows go from the base unit (multiplier 1) upward.
 consteval bool rising_from_one(std::span<const UnitEntry> table)

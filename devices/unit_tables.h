@@ -43,4 +43,4 @@ static_assert(rising_from_one(frequency) && rising_from_one(data_rate) && rising
               rising_from_one(level) && rising_from_one(ratio) && rising_from_one(current) &&
               rising_from_one(fixed_megahertz));
 
-} // namespace units
+}   // namespace units

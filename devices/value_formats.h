@@ -56,8 +56,7 @@ struct scaled {
     field_scale scale;
 
     template <text_sink Out, std::integral Value>
-        requires(sizeof(Value) <= 4)
-    void operator()(Out& out, Value raw) const
+    requires(sizeof(Value) <= 4) void operator()(Out& out, Value raw) const
     {
         out << scaled_value{decimal_value::from(raw, scale.places), scale.units};
     }
@@ -90,4 +89,4 @@ struct text {
     }
 };
 
-} // namespace formats
+}   // namespace formats

@@ -97,13 +97,8 @@ inline constexpr alarm_bit modem_receive[] = {
 };
 
 inline constexpr alarm_bit chassis_demodulator[] = {
-    {0, "Rx Demod Lock"_w},
-    {1, "Rx AGC"_w},
-    {4, "Rx Buffer Underflow"_w},
-    {5, "Rx Buffer Overflow"_w},
-    {6, "Rx EbNo"_w},
-    {8, "LNB Current"_w},
-    {9, "LNB Voltage"_w},
+    {0, "Rx Demod Lock"_w}, {1, "Rx AGC"_w},      {4, "Rx Buffer Underflow"_w}, {5, "Rx Buffer Overflow"_w},
+    {6, "Rx EbNo"_w},       {8, "LNB Current"_w}, {9, "LNB Voltage"_w},
 };
 
 // The FPGA-based modem (':').
@@ -132,14 +127,9 @@ inline constexpr alarm_bit fpga_unit[] = {
 };
 
 inline constexpr alarm_bit fpga_transmit[] = {
-    {0, "Symbol Clock Not Locked"_w},
-    {1, "RF Synthisizer Not Locked"_w},
-    {2, "No IQ Activity"_w},
-    {3, "Nyquist Filter Clipping"_w},
-    {4, "Intf Clock PLL Not Locked"_w},
-    {5, "Intf Teres Clock No Activity"_w},
-    {6, "Intf SCT PLL Not Locked"_w},
-    {7, "Intf No Data Activity"_w},
+    {0, "Symbol Clock Not Locked"_w}, {1, "RF Synthisizer Not Locked"_w}, {2, "No IQ Activity"_w},
+    {3, "Nyquist Filter Clipping"_w}, {4, "Intf Clock PLL Not Locked"_w}, {5, "Intf Teres Clock No Activity"_w},
+    {6, "Intf SCT PLL Not Locked"_w}, {7, "Intf No Data Activity"_w},
 };
 
 inline constexpr alarm_bit fpga_receive[] = {
@@ -165,20 +155,13 @@ inline constexpr alarm_bit fpga_receive[] = {
 inline constexpr auto packet_unit = without(modem_unit, {3});
 
 inline constexpr auto packet_transmit = followed_by(modem_transmit, {
-    {11, "G.703 Signal Loss"_w},
-    {12, "Tx PaP Ethernet"_w},
-});
+                                                                        {11, "G.703 Signal Loss"_w},
+                                                                        {12, "Tx PaP Ethernet"_w},
+                                                                    });
 
 inline constexpr alarm_bit packet_receive[] = {
-    {0, "Demod Lock"_w},
-    {1, "AGC"_w},
-    {3, "Xlink Frame Sync"_w},
-    {4, "Buffer Underflow"_w},
-    {5, "Buffer Overflow"_w},
-    {6, "EbNo"_w},
-    {7, "AIS"_w},
-    {8, "LNB Current"_w},
-    {9, "LNB Voltage"_w},
+    {0, "Demod Lock"_w}, {1, "AGC"_w}, {3, "Xlink Frame Sync"_w}, {4, "Buffer Underflow"_w}, {5, "Buffer Overflow"_w},
+    {6, "EbNo"_w},       {7, "AIS"_w}, {8, "LNB Current"_w},      {9, "LNB Voltage"_w},
 };
 
 // The receive-only chassis ('^'): no transmitter, +23V rail, external
@@ -189,4 +172,4 @@ inline constexpr auto receiver_unit = without(modem_unit, {3, 5, 8, 9});
 // the Xlink framing.
 inline constexpr auto receiver_demodulator = without(packet_receive, {3});
 
-} // namespace alarm_bits
+}   // namespace alarm_bits

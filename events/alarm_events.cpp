@@ -151,7 +151,7 @@ void describe_unit_alarms(payload_cursor& in, Listing& listing)
         list_changed_alarms(record, *layout, listing);
 }
 
-} // namespace
+}   // namespace
 
 void alarm_status_changed_xml(payload_cursor& in, ui::event::xml_output& out)
 {

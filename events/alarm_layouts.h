@@ -22,8 +22,8 @@ struct alarm_layout {
     std::uint8_t deviceType;
     std::span<const alarm_group> groups;   // walked in this order
     std::span<const alarm_bit> demodulator;
-    std::uint32_t demodulators;            // slots, each with a `demodulator` group
-    bool inXml;                           // whether the XML form lists the bits at all
+    std::uint32_t demodulators;   // slots, each with a `demodulator` group
+    bool inXml;   // whether the XML form lists the bits at all
 
     // Demodulator slot i (from 0) occupies these two bytes of the masks.
     static constexpr std::uint32_t first_slot_offset = 2;
@@ -69,14 +69,15 @@ consteval bool all_inside_masks()
         for (const alarm_group& group : layout.groups)
             if (!inside_masks(group.bits, group.offset))
                 return false;
-        if (layout.demodulators > 0 && !inside_masks(layout.demodulator, alarm_layout::slot_offset(layout.demodulators - 1)))
+        if (layout.demodulators > 0 &&
+            !inside_masks(layout.demodulator, alarm_layout::slot_offset(layout.demodulators - 1)))
             return false;
     }
     return true;
 }
 static_assert(all_inside_masks());
 
-} // namespace alarm_layouts
+}   // namespace alarm_layouts
 
 // The layout of a device type, or null when the type reports no named bits.
 constexpr const alarm_layout* find_alarm_layout(std::uint8_t device_type) noexcept

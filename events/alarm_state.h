@@ -10,11 +10,9 @@ namespace render {
 
 // Every state, once: its name in code, its display name, its value.
 // "Reinitalize" is spelled as operators have always read it.
-#define KORPS_ALARM_STATES(row)                  \
-    row(ok, "Ok", 0)                             \
-    row(hard_reset, "Hard Reset", 1)             \
-    row(reinitialize, "Reinitalize", 2)          \
-    row(limit_fault, "Limit Fault", 3)
+#define KORPS_ALARM_STATES(row)                                                                                        \
+    row(ok, "Ok", 0) row(hard_reset, "Hard Reset", 1) row(reinitialize, "Reinitalize", 2)                              \
+        row(limit_fault, "Limit Fault", 3)
 
 enum class alarm_state : std::uint32_t {
 #define KORPS_ALARM_STATE_VALUE(name, text, value) name = value,
@@ -35,4 +33,4 @@ constexpr wstring_view alarm_state_name(alarm_state state) noexcept
     return lookup_option(alarm_state_options, static_cast<std::uint32_t>(state));
 }
 
-} // namespace render
+}   // namespace render

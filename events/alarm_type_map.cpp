@@ -26,7 +26,7 @@ map& the_map()
     return names;
 }
 
-} // namespace
+}   // namespace
 
 const char* name_of(const GUID& id)
 {
@@ -53,4 +53,4 @@ int register_records(int count, const alarm_type_record* records) noexcept
     return 0;
 }
 
-} // namespace alarm_types
+}   // namespace alarm_types

@@ -41,4 +41,4 @@ struct id_order {
 // the identifier is unknown or was registered without a name.
 const char* name_of(const GUID& id);
 
-} // namespace alarm_types
+}   // namespace alarm_types

@@ -53,7 +53,7 @@ subnet read_subnet(payload_cursor& in)
     return {address, in.read_u32()};
 }
 
-} // namespace
+}   // namespace
 
 void unit_registration_xml(payload_cursor& in, ui::event::xml_output& out)
 {

@@ -138,8 +138,8 @@ struct unit_properties {
 
     static unit_properties read(payload_cursor& in)
     {
-        return {in.read_u32(), in.read_u8() != 0, in.read_u8() != 0, in.read_u8() != 0, in.read_i32(),
-                read_outcome(in)};
+        return {in.read_u32(),     in.read_u8() != 0, in.read_u8() != 0,
+                in.read_u8() != 0, in.read_i32(),     read_outcome(in)};
     }
 };
 
@@ -148,17 +148,14 @@ struct gull_properties {
     payload_text name;
     outcome result;
 
-    static gull_properties read(payload_cursor& in)
-    {
-        return {in.read_u32(), in.read_wstring(), read_outcome(in)};
-    }
+    static gull_properties read(payload_cursor& in) { return {in.read_u32(), in.read_wstring(), read_outcome(in)}; }
 };
 
 // --- Timer settings ---------------------------------------------------------
 
 struct heartbeat_change {
     bool enabled;
-    std::int32_t timeout;    // milliseconds
+    std::int32_t timeout;   // milliseconds
     std::int32_t interval;   // milliseconds
     outcome result;
 
@@ -189,7 +186,7 @@ struct unit_properties_v32 {
     }
 };
 
-} // namespace
+}   // namespace
 
 // --- Corvane Unit Properties Saved ------------------------------------------
 
@@ -230,9 +227,9 @@ colour unit_properties_saved_text(payload_cursor& in, text_output& out)
 {
     const unit_properties p = unit_properties::read(in);
     // Deliberate: no blank after "IP:".
-    out << "Unit properties saved - IP:"_w << dotted_ipv4{p.address}
-        << ", Front Panel Lock Out: "_w << on_off(p.lockout) << ", Unlock Alarm Mask: "_w << on_off(p.unlockMask) << ", Heartbeat: "_w << on_off(p.heartbeat)
-        << ", Auto Home-state Timeout: "_w << decimal(p.homeStateTimeout) << "s"_w;
+    out << "Unit properties saved - IP:"_w << dotted_ipv4{p.address} << ", Front Panel Lock Out: "_w
+        << on_off(p.lockout) << ", Unlock Alarm Mask: "_w << on_off(p.unlockMask) << ", Heartbeat: "_w
+        << on_off(p.heartbeat) << ", Auto Home-state Timeout: "_w << decimal(p.homeStateTimeout) << "s"_w;
     return end_with_outcome(out, p.result, inventory);
 }
 
@@ -354,8 +351,8 @@ colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
     // Deliberate: no blank after "Enabled:".
-    out << "Unit Heartbeat Toggled - Enabled:"_w << lowercase_true_false(h.enabled)
-        << ", Timeout: "_w << decimal(h.timeout) << "ms, Interval: "_w << decimal(h.interval) << "ms"_w;
+    out << "Unit Heartbeat Toggled - Enabled:"_w << lowercase_true_false(h.enabled) << ", Timeout: "_w
+        << decimal(h.timeout) << "ms, Interval: "_w << decimal(h.interval) << "ms"_w;
     return end_with_outcome(out, h.result, command);
 }
 

@@ -66,7 +66,7 @@ static_assert(std::size(falcon_sections) <= 8 && std::size(heron_unit_sections) 
               "a one-byte mask names eight sections at most");
 static_assert(std::size(osprey_sections) <= 16);
 
-} // namespace
+}   // namespace
 
 render::colour properties_modified(payload_cursor&, ui::event::text_output& out)
 {

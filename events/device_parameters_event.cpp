@@ -88,7 +88,7 @@ record_kind select(payload_cursor& in)
     throw std::runtime_error(messages::invalid_device_type);
 }
 
-} // namespace
+}   // namespace
 
 void device_parameters_changed_xml(payload_cursor& in, ui::event::xml_output& out)
 {

@@ -11,7 +11,7 @@
 struct event_type_row {
     const GUID* eventType;
     EventXmlRenderer xmlRenderer;   // null where the type has no XML form
-    std::uint32_t reserved;         // always 0
+    std::uint32_t reserved;   // always 0
     EventTextRenderer textRenderer;
     const wchar* name;
     // Not part of the host's record: the room each form needs.

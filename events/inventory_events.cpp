@@ -55,7 +55,7 @@ void write_unit_move_xml(payload_cursor& in, ui::event::verbatim_xml_output& out
     out << form.indent << "<transponder>"_w << decimal(move.network) << "</transponder>\n"_w;
 }
 
-} // namespace
+}   // namespace
 
 void unit_destroy_xml(payload_cursor& in, ui::event::xml_output& out)
 {
@@ -150,16 +150,15 @@ struct network_notice {
 // Deliberate, in every row: the doubled blank before "-->"; "from" missing in
 // the removal comment; one tab before <Network ID> when added, two when removed.
 constexpr network_notice network_id_inserted_notice{
-    "Network ID added to Orrin"_w, inventory, "<!-- New Network ID added to Orrin registry  -->\n"_w, true,
-    "\t"_w};
-constexpr network_notice network_id_removed_notice{
-    "Network ID removed from Orrin"_w, inventory, "<!-- New Network ID removed Orrin registry  -->\n"_w, true,
-    "\t\t"_w};
-constexpr network_notice global_reinitialize_notice{
-    "Global Re-Initialize command sent to network"_w, render::colours::command, "<!-- Global Re-initialize  -->\n"_w,
-    false, ""_w};
-constexpr network_notice scan_network_notice{
-    "Scan Network command sent to network"_w, render::colours::command, "<!-- Scan Network  -->\n"_w, false, ""_w};
+    "Network ID added to Orrin"_w, inventory, "<!-- New Network ID added to Orrin registry  -->\n"_w, true, "\t"_w};
+constexpr network_notice network_id_removed_notice{"Network ID removed from Orrin"_w, inventory,
+                                                   "<!-- New Network ID removed Orrin registry  -->\n"_w, true,
+                                                   "\t\t"_w};
+constexpr network_notice global_reinitialize_notice{"Global Re-Initialize command sent to network"_w,
+                                                    render::colours::command, "<!-- Global Re-initialize  -->\n"_w,
+                                                    false, ""_w};
+constexpr network_notice scan_network_notice{"Scan Network command sent to network"_w, render::colours::command,
+                                             "<!-- Scan Network  -->\n"_w, false, ""_w};
 
 template <const network_notice& Notice>
 void network_notice_renderers<Notice>::xml(payload_cursor& in, ui::event::verbatim_xml_output& out)

@@ -19,7 +19,7 @@ bool bit_of(const unit_alarm_record::mask& mask, std::size_t offset, std::int32_
     return byte < mask.size() && (mask[byte] >> (bit % 8) & 1) != 0;
 }
 
-} // namespace
+}   // namespace
 
 unit_alarm_record unit_alarm_record::read(payload_cursor& in)
 {

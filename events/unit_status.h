@@ -32,7 +32,5 @@ Out& operator<<(Out& out, unit_status status)
 // anything is alarmed.
 constexpr render::colour colour_of(unit_status status) noexcept
 {
-    return status.value < 0 ? render::colours::grey
-         : status.value == 0 ? render::colours::green
-                             : render::colours::red;
+    return status.value < 0 ? render::colours::grey : status.value == 0 ? render::colours::green : render::colours::red;
 }

@@ -28,8 +28,7 @@ char names[256][name_room];
 
 constexpr wchar canary = 0xA5A5;
 
-void check(const event_type_row& row, bool text, const std::uint8_t* payload, std::size_t bytes,
-           std::size_t capacity)
+void check(const event_type_row& row, bool text, const std::uint8_t* payload, std::size_t bytes, std::size_t capacity)
 {
     std::vector<wchar> buffer(capacity + 4, canary);
     std::uint32_t colour = 0;
@@ -44,7 +43,7 @@ void check(const event_type_row& row, bool text, const std::uint8_t* payload, st
         FUZZ_REQUIRE(buffer[i] == canary);
 }
 
-} // namespace
+}   // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -25,7 +25,7 @@ std::size_t length_of(const std::vector<wchar>& text)
     return n;
 }
 
-} // namespace
+}   // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -20,7 +20,7 @@ const wstring app_id = WSTR("{E5693989-AC7B-424D-B28F-89CB8FA28587}");
 const wstring module_path = WSTR("C:\\korps.dll");
 const registry::replacement replacements[] = {{"APPID", app_id}, {"MODULE", module_path}};
 
-} // namespace
+}   // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -38,12 +38,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // it away again with its own subtree.
     for (std::size_t i = 0; i < keys.size(); ++i) {
         const std::string path = memory_hive::lower(keys[i].path);
-        const bool rebuilt_later = std::any_of(keys.begin() + static_cast<std::ptrdiff_t>(i) + 1, keys.end(),
-                                               [&](const registry::key& later) {
-                                                   const std::string top = memory_hive::lower(later.path);
-                                                   return later.removal == registry::flag::force_remove &&
-                                                          (path == top || path.starts_with(top + "\\"));
-                                               });
+        const bool rebuilt_later =
+            std::any_of(keys.begin() + static_cast<std::ptrdiff_t>(i) + 1, keys.end(), [&](const registry::key& later) {
+                const std::string top = memory_hive::lower(later.path);
+                return later.removal == registry::flag::force_remove && (path == top || path.starts_with(top + "\\"));
+            });
         FUZZ_REQUIRE(hive.has(keys[i].path) || rebuilt_later);
     }
     FUZZ_REQUIRE(registry::unregister_script(keys, hive) == S_OK);

@@ -42,7 +42,7 @@ struct rendering {
 };
 
 rendering render_into(const event_type_row& row, bool text, const std::uint8_t* payload, std::size_t bytes,
-                 std::size_t capacity)
+                      std::size_t capacity)
 {
     rendering r{S_OK, std::vector<wchar>(capacity + guard, canary), false};
     std::uint32_t colour = 0;
@@ -68,7 +68,7 @@ std::size_t terminated_length(const std::vector<wchar>& buffer, std::size_t capa
     return static_cast<std::size_t>(end - buffer.begin());
 }
 
-} // namespace
+}   // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -109,8 +109,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         // unit written, and the terminator stands right after the last.
         FUZZ_REQUIRE(measured == S_OK && needed > full_length && needed <= ample);
         FUZZ_REQUIRE(full.buffer[needed - 1] == 0);
-    }
-    else if (measured == S_OK)
+    } else if (measured == S_OK)
         FUZZ_REQUIRE(needed > ample);   // only want of room stopped the ample rendering
     else
         FUZZ_REQUIRE(measured == full.result);
@@ -121,8 +120,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::size_t length = terminated_length(r.buffer, capacity);
     FUZZ_REQUIRE(length < capacity);
     FUZZ_REQUIRE(length <= full_length);
-    FUZZ_REQUIRE(std::equal(r.buffer.begin(), r.buffer.begin() + static_cast<std::ptrdiff_t>(length),
-                            full.buffer.begin()));
+    FUZZ_REQUIRE(
+        std::equal(r.buffer.begin(), r.buffer.begin() + static_cast<std::ptrdiff_t>(length), full.buffer.begin()));
     if (r.result == S_OK) {
         FUZZ_REQUIRE(full.result == S_OK);
         FUZZ_REQUIRE(length == full_length);

@@ -37,7 +37,7 @@ std::size_t random_inputs(long count)
     return static_cast<std::size_t>(count);
 }
 
-} // namespace
+}   // namespace
 
 int main(int argc, char** argv)
 {

@@ -35,7 +35,7 @@ struct memory_sink final : byte_sink {
     void write(const std::uint8_t* data, std::size_t count) override { bytes.insert(bytes.end(), data, data + count); }
 };
 
-} // namespace
+}   // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

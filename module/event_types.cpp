@@ -141,18 +141,15 @@ constexpr std::array<event_type_row, 40> table{{
                         WSTR("Corvane Unit Declared")),
     make_event_type_row(unit_inserted_v32_id, xml_form<verbatim, unit_inserted_v32_xml>,
                         text_form<unit_inserted_v32_text>, WSTR("Corvane Unit Inserted Orrin 3.2")),
-    make_event_type_row(network_id_inserted_id,
-                        xml_form<verbatim, network_notice_renderers<network_id_inserted_notice>::xml>,
-                        text_form<network_notice_renderers<network_id_inserted_notice>::text>,
-                        WSTR("Network ID Inserted")),
-    make_event_type_row(network_id_removed_id,
-                        xml_form<verbatim, network_notice_renderers<network_id_removed_notice>::xml>,
-                        text_form<network_notice_renderers<network_id_removed_notice>::text>,
-                        WSTR("Network ID Removed")),
-    make_event_type_row(global_reinitialize_id,
-                        xml_form<verbatim, network_notice_renderers<global_reinitialize_notice>::xml>,
-                        text_form<network_notice_renderers<global_reinitialize_notice>::text>,
-                        WSTR("Corvane Global Reinitialize")),
+    make_event_type_row(
+        network_id_inserted_id, xml_form<verbatim, network_notice_renderers<network_id_inserted_notice>::xml>,
+        text_form<network_notice_renderers<network_id_inserted_notice>::text>, WSTR("Network ID Inserted")),
+    make_event_type_row(
+        network_id_removed_id, xml_form<verbatim, network_notice_renderers<network_id_removed_notice>::xml>,
+        text_form<network_notice_renderers<network_id_removed_notice>::text>, WSTR("Network ID Removed")),
+    make_event_type_row(
+        global_reinitialize_id, xml_form<verbatim, network_notice_renderers<global_reinitialize_notice>::xml>,
+        text_form<network_notice_renderers<global_reinitialize_notice>::text>, WSTR("Corvane Global Reinitialize")),
     make_event_type_row(scan_network_id, xml_form<verbatim, network_notice_renderers<scan_network_notice>::xml>,
                         text_form<network_notice_renderers<scan_network_notice>::text>, WSTR("Corvane Scan Network")),
     make_event_type_row(manager_properties_saved_id, xml_form<verbatim, manager_properties_saved_xml>,
@@ -181,7 +178,7 @@ static_assert(
     "korps_events.h and the event table disagree on an identifier or the order");
 #endif
 
-} // namespace
+}   // namespace
 
 std::span<const event_type_row> event_types() noexcept
 {

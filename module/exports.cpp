@@ -58,4 +58,4 @@ BOOL __stdcall DllMain(HINSTANCE instance, DWORD reason, void*)
     return TRUE;
 }
 
-} // extern "C"
+}   // extern "C"

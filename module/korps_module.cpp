@@ -60,7 +60,7 @@ std::wstring script_text(UINT resource)
     return wide;
 }
 
-} // namespace
+}   // namespace
 
 CKORPSModule& CKORPSModule::Instance() noexcept
 {

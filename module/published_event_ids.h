@@ -20,8 +20,8 @@ consteval published_event_list read_published_event_ids()
     published_event_list list;
 #pragma push_macro("DEFINE_GUID")
 #undef DEFINE_GUID
-#define DEFINE_GUID(name, l, w1, w2, b1, b2, b3, b4, b5, b6, b7, b8)                                                 \
-    list.ids[list.count++] = GUID{l, w1, w2, {b1, b2, b3, b4, b5, b6, b7, b8}}
+#define DEFINE_GUID(name, l, w1, w2, b1, b2, b3, b4, b5, b6, b7, b8)                                                   \
+    list.ids[list.count++] = (GUID{l, w1, w2, {b1, b2, b3, b4, b5, b6, b7, b8}})
 #include "include/korps/korps_events.h"
 #pragma pop_macro("DEFINE_GUID")
     return list;

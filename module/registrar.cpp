@@ -42,4 +42,4 @@ HRESULT unregister_script(const script& keys, hive& registry)
     return first_failure;
 }
 
-} // namespace registry
+}   // namespace registry

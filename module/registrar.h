@@ -35,4 +35,4 @@ HRESULT register_script(const script& keys, hive& registry);
 // every key has been tried.
 HRESULT unregister_script(const script& keys, hive& registry);
 
-} // namespace registry
+}   // namespace registry

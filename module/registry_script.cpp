@@ -25,8 +25,7 @@ class script_reader {
 public:
     script_reader(wstring_view text, std::span<const replacement> replacements) noexcept
         : text_(text), in_(text), replacements_(replacements)
-    {
-    }
+    {}
 
     bool at_end()
     {
@@ -207,7 +206,7 @@ void parse_block(script_reader& in, script& out, const wstring& parent, std::siz
     }
 }
 
-} // namespace
+}   // namespace
 
 script parse_script(wstring_view text, std::span<const replacement> replacements)
 {
@@ -231,4 +230,4 @@ script parse_script(wstring_view text, std::span<const replacement> replacements
     return out;
 }
 
-} // namespace registry
+}   // namespace registry

@@ -65,4 +65,4 @@ public:
 
 script parse_script(wstring_view text, std::span<const replacement> replacements);
 
-} // namespace registry
+}   // namespace registry

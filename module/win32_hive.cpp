@@ -39,13 +39,13 @@ private:
     HKEY key_ = nullptr;
 };
 
-} // namespace
+}   // namespace
 
 HRESULT classes_root::create_key(wstring_view path)
 {
     HKEY key = nullptr;
-    const LONG status = RegCreateKeyExW(HKEY_CLASSES_ROOT, terminated(path).c_str(), 0, nullptr, 0, KEY_WRITE,
-                                        nullptr, &key, nullptr);
+    const LONG status =
+        RegCreateKeyExW(HKEY_CLASSES_ROOT, terminated(path).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr);
     if (key)
         RegCloseKey(key);
     return from_status(status);
@@ -56,8 +56,7 @@ HRESULT classes_root::set_value(wstring_view path, wstring_view name, wstring_vi
     const wstring text = terminated(data);
     const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof(wchar));
     return from_status(RegSetKeyValueW(HKEY_CLASSES_ROOT, terminated(path).c_str(),
-                                       name.empty() ? nullptr : terminated(name).c_str(), REG_SZ, text.c_str(),
-                                       bytes));
+                                       name.empty() ? nullptr : terminated(name).c_str(), REG_SZ, text.c_str(), bytes));
 }
 
 HRESULT classes_root::delete_value(wstring_view path, wstring_view name)
@@ -97,4 +96,4 @@ HRESULT classes_root::delete_if_empty(wstring_view path)
     return absent(status) ? S_OK : from_status(status);
 }
 
-} // namespace registry
+}   // namespace registry

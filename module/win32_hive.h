@@ -14,4 +14,4 @@ public:
     HRESULT delete_if_empty(wstring_view path) override;
 };
 
-} // namespace registry
+}   // namespace registry

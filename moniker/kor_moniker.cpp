@@ -24,7 +24,7 @@ constexpr interface_entry<CKorMoniker> interfaces[] = {
     interface_row<CKorMoniker, IPersistStream, IMoniker>(IID_IPersistStream),
 };
 
-} // namespace
+}   // namespace
 
 CKorMoniker::CKorMoniker(const KorName& name) noexcept : name_(name)
 {

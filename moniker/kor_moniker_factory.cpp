@@ -14,7 +14,7 @@ constexpr interface_entry<CFactory> interfaces[] = {
     interface_row<CFactory, ICreateKorMoniker>(IID_ICreateKorMoniker),
 };
 
-} // namespace
+}   // namespace
 
 CFactory& CFactory::Instance() noexcept
 {

@@ -23,7 +23,7 @@ struct KorName {
     // keep all 32 bits.
     std::array<std::uint8_t, 6> mac{};   // byte 5 is printed first, byte 0 last
     std::uint32_t deviceType = 0;
-    std::uint32_t address = 0;           // IPv4; the most significant byte is printed first
+    std::uint32_t address = 0;   // IPv4; the most significant byte is printed first
     std::uint32_t subIndex = 0;
     std::uint32_t idValue = 0;
     std::uint32_t transponder = 0;

@@ -7,10 +7,10 @@
 #include "moniker/kor_name_stream.h"
 
 #ifdef _WIN32
-#  include "korps/korps_interfaces.h"
-#  define KORPS_WITH_INTERFACES(operation) operation
+#include "korps/korps_interfaces.h"
+#define KORPS_WITH_INTERFACES(operation) operation
 #else
-#  define KORPS_WITH_INTERFACES(operation) nullptr
+#define KORPS_WITH_INTERFACES(operation) nullptr
 #endif
 
 namespace {
@@ -105,8 +105,7 @@ std::uint32_t device_ex_hash(const KorName& n) noexcept
     return (n.address & n.deviceType) ^ n.idValue ^ n.subIndex;
 }
 
-constexpr KorWord device_ex_words[] = {&KorName::deviceType, &KorName::address, &KorName::subIndex,
-                                       &KorName::idValue};
+constexpr KorWord device_ex_words[] = {&KorName::deviceType, &KorName::address, &KorName::subIndex, &KorName::idValue};
 
 // --- kind 3: a transponder
 
@@ -240,11 +239,11 @@ constexpr bool extends_earlier_kinds() noexcept
     return true;
 }
 static_assert(extends_earlier_kinds(), "a kind extends one the parser has already read");
-static_assert(std::ranges::all_of(kinds,
-                                  [](const kor_name_kind& k) { return kor_name_stream_bytes(k) <= kor_name_stream_max; }),
-              "every name fits the size promised to hosts");
+static_assert(
+    std::ranges::all_of(kinds, [](const kor_name_kind& k) { return kor_name_stream_bytes(k) <= kor_name_stream_max; }),
+    "every name fits the size promised to hosts");
 
-} // namespace
+}   // namespace
 
 std::span<const kor_name_kind> kor_name_kinds() noexcept
 {

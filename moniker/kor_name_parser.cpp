@@ -58,8 +58,8 @@ void read_head(text_reader& in, KorName& name)
     }
     in.expect<char[2]>("-");
     const auto kinds = kor_name_kinds();
-    const auto kind = std::ranges::find_if(
-        kinds, [&](const kor_name_kind& k) { return !k.extends && k.identifier == identifier; });
+    const auto kind =
+        std::ranges::find_if(kinds, [&](const kor_name_kind& k) { return !k.extends && k.identifier == identifier; });
     if (kind == kinds.end())
         throw std::runtime_error(messages::unrecognized_moniker_string);
     name.kind = static_cast<std::uint32_t>(kind - kinds.begin());
@@ -81,7 +81,7 @@ void read_fields(text_reader& in, KorName& name)
     }
 }
 
-} // namespace
+}   // namespace
 
 std::optional<parsed_kor_name> read_kor_name(wstring_view text, std::size_t* stopped)
 {

@@ -26,7 +26,7 @@ void write_name(output& out, const kor_name_kind& kind, const KorName& name)
     kind.write(out, name);
 }
 
-} // namespace
+}   // namespace
 
 HRESULT print_kor_name(const KorName& name, wchar* buffer, std::size_t capacity) noexcept
 {

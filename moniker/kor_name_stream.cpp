@@ -28,7 +28,7 @@ const kor_name_kind& stored_kind(std::uint32_t kind)
     return *found;
 }
 
-} // namespace
+}   // namespace
 
 void save_kor_name(const KorName& name, byte_sink& out)
 {

@@ -27,7 +27,7 @@ void check_transfer(HRESULT result, ULONG moved, std::size_t count, HRESULT shor
         throw com::error(shortfall);
 }
 
-} // namespace
+}   // namespace
 
 stream_bytes::stream_bytes(IStream* stream) noexcept : stream_(stream)
 {

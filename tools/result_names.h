@@ -74,4 +74,4 @@ inline std::string describe(std::int32_t result)
     return row ? std::string(option_narrow(*row)) + " (" + hex(result) + ")" : hex(result);
 }
 
-} // namespace results
+}   // namespace results

@@ -79,8 +79,7 @@ std::vector<std::uint8_t> parse_bytes(const std::string& value, const std::strin
 
 GUID parse_guid(std::string value, const std::string& file, int line)
 {
-    value.erase(std::remove_if(value.begin(), value.end(), [](char c) { return c == '{' || c == '}'; }),
-                value.end());
+    value.erase(std::remove_if(value.begin(), value.end(), [](char c) { return c == '{' || c == '}'; }), value.end());
     std::string digits;
     for (std::size_t i = 0; i < value.size(); ++i)
         if (value[i] != '-')
@@ -129,11 +128,21 @@ std::u16string parse_quoted(const std::string& value, const std::string& file, i
         const char e = body[i + 1];
         i += 2;
         switch (e) {
-        case 'n': text += u'\n'; break;
-        case 't': text += u'\t'; break;
-        case 'r': text += u'\r'; break;
-        case '"': text += u'"'; break;
-        case '\\': text += u'\\'; break;
+        case 'n':
+            text += u'\n';
+            break;
+        case 't':
+            text += u'\t';
+            break;
+        case 'r':
+            text += u'\r';
+            break;
+        case '"':
+            text += u'"';
+            break;
+        case '\\':
+            text += u'\\';
+            break;
         case 'u': {
             if (i + 4 > body.size())
                 fail(file, line, "\\u needs four hexadecimal digits");
@@ -157,7 +166,7 @@ std::string trim(const std::string& s)
     return s.substr(first, last - first + 1);
 }
 
-} // namespace
+}   // namespace
 
 std::vector<std::uint8_t> parse_hex_bytes(const std::string& text)
 {
@@ -271,11 +280,21 @@ std::string quote(const std::u16string& text)
     std::string out = "\"";
     for (char16_t c : text) {
         switch (c) {
-        case u'\n': out += "\\n"; break;
-        case u'\t': out += "\\t"; break;
-        case u'\r': out += "\\r"; break;
-        case u'"': out += "\\\""; break;
-        case u'\\': out += "\\\\"; break;
+        case u'\n':
+            out += "\\n";
+            break;
+        case u'\t':
+            out += "\\t";
+            break;
+        case u'\r':
+            out += "\\r";
+            break;
+        case u'"':
+            out += "\\\"";
+            break;
+        case u'\\':
+            out += "\\\\";
+            break;
         default:
             if (c >= 0x20 && c < 0x7F) {
                 out += static_cast<char>(c);
@@ -289,4 +308,4 @@ std::string quote(const std::u16string& text)
     return out + "\"";
 }
 
-} // namespace samples
+}   // namespace samples

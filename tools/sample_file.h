@@ -18,9 +18,9 @@ namespace samples {
 // What one renderer is expected to do with the payload.
 struct expectation {
     HRESULT result = S_OK;
-    std::u16string output;                 // the buffer afterwards
+    std::u16string output;   // the buffer afterwards
     std::optional<std::uint32_t> colour;   // text renderers, on success
-    std::optional<std::string> error;      // the error object's description
+    std::optional<std::string> error;   // the error object's description
 };
 
 struct sample {
@@ -77,4 +77,4 @@ int register_alarm_types(int(KORPS_CDECL* register_map)(int, const Record*))
     return register_map(static_cast<int>(std::size(records)), records);
 }
 
-} // namespace samples
+}   // namespace samples

@@ -25,22 +25,22 @@ extern "C" {
  * object describing it, among others). After a failure the buffer holds the
  * text written up to the failing piece, still NUL-terminated.
  */
-typedef HRESULT(__stdcall* EventXmlRenderer)(void* context, UINT payloadBytes, const BYTE* payload,
-                                             WCHAR* buffer, UINT capacity);
+typedef HRESULT(__stdcall* EventXmlRenderer)(void* context, UINT payloadBytes, const BYTE* payload, WCHAR* buffer,
+                                             UINT capacity);
 
 /* As above, for one line of text; stores the display colour (a COLORREF,
    0x00BBGGRR) on success. */
-typedef HRESULT(__stdcall* EventTextRenderer)(void* context, UINT payloadBytes, const BYTE* payload,
-                                              WCHAR* buffer, UINT capacity, UINT* colour);
+typedef HRESULT(__stdcall* EventTextRenderer)(void* context, UINT payloadBytes, const BYTE* payload, WCHAR* buffer,
+                                              UINT capacity, UINT* colour);
 
 /* One event type: 32 bytes on the 32-bit target, no padding; 48 bytes on the
    64-bit target, in its natural layout (4 bytes of padding after reserved). */
 typedef struct EVENTUI {
     GUID eventType;
     EventXmlRenderer xmlRenderer; /* null when the type has no XML form */
-    UINT reserved;                /* always 0 */
+    UINT reserved; /* always 0 */
     EventTextRenderer textRenderer;
-    const WCHAR* name;            /* module-owned; valid while the module is loaded */
+    const WCHAR* name; /* module-owned; valid while the module is loaded */
 } EVENTUI;
 
 /* EVENTUI crosses the module boundary as 32 bytes on the 32-bit target and
@@ -64,10 +64,10 @@ DEFINE_GUID(IID_IEnumEVENTUI, 0xd3685424, 0x6ac4, 0x4f3f, 0x8c, 0x8e, 0x11, 0x00
 MIDL_INTERFACE("d3685424-6ac4-4f3f-8c8e-11007b462695")
 IEnumEVENTUI : public IUnknown
 {
-    virtual HRESULT STDMETHODCALLTYPE Next(ULONG celt, EVENTUI* rgelt, ULONG* pceltFetched) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Next(ULONG celt, EVENTUI * rgelt, ULONG * pceltFetched) = 0;
     virtual HRESULT STDMETHODCALLTYPE Skip(ULONG celt) = 0;
     virtual HRESULT STDMETHODCALLTYPE Reset() = 0;
-    virtual HRESULT STDMETHODCALLTYPE Clone(IEnumEVENTUI** ppEnum) = 0;
+    virtual HRESULT STDMETHODCALLTYPE Clone(IEnumEVENTUI * *ppEnum) = 0;
 };
 #ifdef __CRT_UUID_DECL
 __CRT_UUID_DECL(IEnumEVENTUI, 0xd3685424, 0x6ac4, 0x4f3f, 0x8c, 0x8e, 0x11, 0x00, 0x7b, 0x46, 0x26, 0x95)

@@ -52,4 +52,4 @@ TEST(Concurrency, EverySampleFromEightThreadsAtOnce)
     EXPECT_EQ(wrong.load(), 0) << "renderings that differed from the samples";
 }
 
-} // namespace
+}   // namespace

@@ -22,7 +22,7 @@ inline void PrintTo(const sample& s, std::ostream* os)
 {
     *os << s.file << ": " << s.name;
 }
-} // namespace samples
+}   // namespace samples
 
 namespace sample_check {
 
@@ -47,8 +47,7 @@ struct outcome {
 inline constexpr wchar canary = 0xCCCC;
 inline constexpr std::uint32_t no_colour = 0xDEADBEEF;
 
-inline outcome render(const renderers& r, bool text, const std::vector<std::uint8_t>& payload,
-                      std::size_t capacity)
+inline outcome render(const renderers& r, bool text, const std::vector<std::uint8_t>& payload, std::size_t capacity)
 {
     constexpr std::size_t guard = 8;
     std::vector<wchar> buffer(capacity + guard, canary);
@@ -118,4 +117,4 @@ inline std::string test_name(const testing::TestParamInfo<samples::sample>& info
     return name;
 }
 
-} // namespace sample_check
+}   // namespace sample_check

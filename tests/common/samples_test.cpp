@@ -24,4 +24,4 @@ TEST_P(Samples, RenderExactlyAndWithinEveryBuffer)
 INSTANTIATE_TEST_SUITE_P(All, Samples, testing::ValuesIn(samples::load_folder(KORPS_SAMPLES_DIR)),
                          sample_check::test_name);
 
-} // namespace
+}   // namespace

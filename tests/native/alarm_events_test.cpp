@@ -96,4 +96,4 @@ TEST(UnitAlarmRecord, RefusesMasksLongerThanItsBuffers)
     }
 }
 
-} // namespace
+}   // namespace

@@ -96,7 +96,7 @@ TEST(AlarmTypeMap, UnknownOrNamelessIdentifierIsABadAlarmId)
 // Identifiers that differ in any single byte are different alarms.
 TEST(AlarmTypeMap, EveryByteOfTheIdentifierCounts)
 {
-    static const std::string names[] = {"b0", "b1", "b2", "b3", "b4", "b5", "b6", "b7",
+    static const std::string names[] = {"b0", "b1", "b2",  "b3",  "b4",  "b5",  "b6",  "b7",
                                         "b8", "b9", "b10", "b11", "b12", "b13", "b14", "b15"};
     // Its own first byte, so that stepping the serial bytes cannot meet
     // another test's fresh identifiers.
@@ -110,4 +110,4 @@ TEST(AlarmTypeMap, EveryByteOfTheIdentifierCounts)
         EXPECT_EQ(alarm_types::name_of(next_in(base, byte)), names[byte]) << "byte " << byte;
 }
 
-} // namespace
+}   // namespace

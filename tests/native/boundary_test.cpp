@@ -29,8 +29,7 @@ TEST(Boundary, MapsByExactType)
          "Expected a char with a value of '.'."},
         {"runtime_error", [] { throw std::runtime_error("bad alarm id"); }, DISP_E_EXCEPTION, "bad alarm id"},
         {"plain exception", [] { throw std::exception(); }, DISP_E_EXCEPTION, "std::exception"},
-        {"derived from not_expected", [] { throw derived_not_expected(); }, DISP_E_EXCEPTION,
-         "Catastrophic failure"},
+        {"derived from not_expected", [] { throw derived_not_expected(); }, DISP_E_EXCEPTION, "Catastrophic failure"},
     };
     for (const test_case& c : cases) {
         const HRESULT result = guarded([&] {
@@ -62,4 +61,4 @@ TEST(Boundary, SuccessPassesThrough)
     EXPECT_EQ(guarded([] { return S_FALSE; }), S_FALSE);
 }
 
-} // namespace
+}   // namespace

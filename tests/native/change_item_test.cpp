@@ -25,18 +25,20 @@ const formats::option modulation{demod_options::modulation};
 
 struct run {
     std::vector<field> fields;   // added to one fresh list
-    const char* text;            // the text items
-    const char* xml;             // the XML items
+    const char* text;   // the text items
+    const char* xml;   // the XML items
 };
 
 const run runs[] = {
-    {{{"A", true, 1, true, 3}}, "A was changed from QPSK to 8PSK",
+    {{{"A", true, 1, true, 3}},
+     "A was changed from QPSK to 8PSK",
      "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>8PSK</new>\n</parameter>\n"},
     {{{"A", false, 0, true, 3}}, "A was changed to 8PSK", "<parameter id=\"A\">\n\t<new>8PSK</new>\n</parameter>\n"},
     {{{"A", true, 1, false, 0}}, "A was changed from QPSK", "<parameter id=\"A\">\n\t<old>QPSK</old>\n</parameter>\n"},
     {{{"A", false, 1, false, 3}}, "", ""},
     // Equal values are still shown when the event marks the field.
-    {{{"A", true, 1, true, 1}}, "A was changed from QPSK to QPSK",
+    {{{"A", true, 1, true, 1}},
+     "A was changed from QPSK to QPSK",
      "<parameter id=\"A\">\n\t<old>QPSK</old>\n\t<new>QPSK</new>\n</parameter>\n"},
     {{{"A", true, 1, true, 3}, {"B", true, 0, true, 200}},
      "A was changed from QPSK to 8PSK, B was changed from BPSK to (invalid)",
@@ -44,7 +46,8 @@ const run runs[] = {
      "<parameter id=\"B\">\n\t<old>BPSK</old>\n\t<new>(invalid)</new>\n</parameter>\n"},
     // A field present in neither copy writes nothing and leaves the next
     // item first.
-    {{{"A", false, 0, false, 0}, {"B", false, 0, true, 2}}, "B was changed to OQPSK",
+    {{{"A", false, 0, false, 0}, {"B", false, 0, true, 2}},
+     "B was changed to OQPSK",
      "<parameter id=\"B\">\n\t<new>OQPSK</new>\n</parameter>\n"},
     {{{"A", true, 1, false, 0}, {"B", false, 0, false, 0}, {"C", true, 2, false, 0}},
      "A was changed from QPSK, C was changed from OQPSK",
@@ -59,8 +62,8 @@ TEST(ChangeList, TextItemsRunOnOneLine)
         const std::string text = written([&](ui::event::text_output& out) {
             text_change_list list(out);
             for (const field& f : r.fields)
-                list.add({wide(std::string("key-") + f.name), wide(f.name)}, f.hasOld, f.oldValue, f.hasNew,
-                         f.newValue, modulation);
+                list.add({wide(std::string("key-") + f.name), wide(f.name)}, f.hasOld, f.oldValue, f.hasNew, f.newValue,
+                         modulation);
         });
         EXPECT_EQ(text, r.text);
     }
@@ -95,4 +98,4 @@ TEST(ChangeList, XmlItemClosesAPendingStartTagAndTakesTheIndentation)
                    "   </parameter>\n");
 }
 
-} // namespace
+}   // namespace

@@ -47,7 +47,8 @@ TEST(CommandLine, ArgumentsMessagesAndExitCodes)
         {"frobnicate", 2, "no command 'frobnicate'"},
         {"list", 0, "39    {074642D0-C9AD-4304-8261-598D4C2A00F9} no   Demodulator Failed Event"},
         {"render 24 01000000 01000000 00000000 --color=never", 0, "Soft reset command  in blind mode succeeded."},
-        {"render 'corvane unit RESET' 01000000 01000000 00000000 --text --color=never", 0, "#FFFF80 (COLORREF 0x80FFFF)"},
+        {"render 'corvane unit RESET' 01000000 01000000 00000000 --text --color=never", 0,
+         "#FFFF80 (COLORREF 0x80FFFF)"},
         {"render 074642c0-c9ad-4304-8261-598d4c2a00f9 '01000000 01000000 00000000' --xml", 0, "<reset-type>Soft"},
         {"render 'OSPREY Data Changed' 00", 2, "ambiguous; use an index or a GUID:\n  1  {91286A63"},
         {"render 'No Such Event'", 2, "no event type is called 'No Such Event'"},
@@ -69,7 +70,8 @@ TEST(CommandLine, ArgumentsMessagesAndExitCodes)
         {"log /no/such/log", 2, "cannot read '/no/such/log'"},
         {"log " + samples + "/event-log.samples --check --color=never", 0, "every output as expected"},
         {"name kor:FCN1L-10.0.0.1", 0, "canonical    kor:fcn1l-10.0.0.1"},
-        {"name kor:fcn1l-1.2.3", 1, "Expected a char with a value of '.'.\n  kor:fcn1l-1.2.3\n                 ^ at unit 15"},
+        {"name kor:fcn1l-1.2.3", 1,
+         "Expected a char with a value of '.'.\n  kor:fcn1l-1.2.3\n                 ^ at unit 15"},
         {"name transponder-5", 1, "does not start with \"kor:\""},
         {"name --from-stream '03000000 0C000000'", 0, "canonical    kor:transponder-12"},
         {"name --from-stream '03000000 0C00'", 1, "the stream holds no name: an underflow occured"},
@@ -107,4 +109,4 @@ TEST(CommandLine, JsonParsesBack)
     EXPECT_EQ(lines, 44u);
 }
 
-} // namespace
+}   // namespace

@@ -159,4 +159,4 @@ TEST(DecimalValue, WhatDoesNotFitTheWordIsRefused)
         EXPECT_EQ(overflow_text(refused[i]), "decimal overflow") << "case " << i;
 }
 
-} // namespace
+}   // namespace

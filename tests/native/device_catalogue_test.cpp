@@ -11,13 +11,19 @@
 
 namespace {
 
-wstring text(wstring_view v) { return wstring(v); }
+wstring text(wstring_view v)
+{
+    return wstring(v);
+}
 
 const wchar* const invalid = WSTR("(invalid)");
 
 TEST(DeviceTypeKeys, NameOfTypeByte)
 {
-    const struct { std::uint8_t type; const wchar* key; } cases[] = {
+    const struct {
+        std::uint8_t type;
+        const wchar* key;
+    } cases[] = {
         {0, WSTR("none")},     {128, WSTR("gull")}, {180, WSTR("fcn2l")},
         {109, WSTR("kt-pro")}, {62, invalid},       {255, invalid},
     };
@@ -61,8 +67,11 @@ TEST(DemodTables, LayoutSpecificTexts)
         {r3, &demod_value_tables::rollOff, 5, WSTR("5%")},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(text(lookup_option(c.layout->*c.table, c.value)), text(c.expected))
-            << "layout " << (c.layout == r1 ? 1 : c.layout == r2 ? 2 : 3) << ", value " << int(c.value);
+        EXPECT_EQ(text(lookup_option(c.layout->*c.table, c.value)), text(c.expected)) << "layout "
+                                                                                      << (c.layout == r1   ? 1
+                                                                                          : c.layout == r2 ? 2
+                                                                                                           : 3)
+                                                                                      << ", value " << int(c.value);
 }
 
-} // namespace
+}   // namespace

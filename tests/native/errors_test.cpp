@@ -52,10 +52,8 @@ TEST(Errors, WideMessageIsCutToTheBuffer)
         std::size_t size;
         const char* expected;
     };
-    for (const test_case& c : std::initializer_list<test_case>{{5, "Expe"},
-                                                     {2, "E"},
-                                                     {13, "Expected a c"},
-                                                     {64, "Expected a char with a value of '-'."}}) {
+    for (const test_case& c : std::initializer_list<test_case>{
+             {5, "Expe"}, {2, "E"}, {13, "Expected a c"}, {64, "Expected a char with a value of '-'."}}) {
         std::array<wchar, 80> buffer;
         buffer.fill(0xCCCC);
         error.format(buffer.data(), c.size);
@@ -89,4 +87,4 @@ TEST(Errors, ComErrorMessage)
     EXPECT_STREQ(undescribed.what(), "unknown error (0x80004005) occurred");
 }
 
-} // namespace
+}   // namespace

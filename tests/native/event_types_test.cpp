@@ -22,4 +22,4 @@ TEST(EventTypes, NullArgumentsAreRefused)
     EXPECT_EQ(colour, 7u);
 }
 
-} // namespace
+}   // namespace

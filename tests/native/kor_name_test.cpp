@@ -121,7 +121,8 @@ TEST(KorNameParse, ValidNames)
         const wstring text = widen(c.text);
         KorName name = of_kind(99);
         std::size_t eaten = 12345;
-        ASSERT_EQ(parse_kor_name(text.c_str(), name, eaten), S_OK) << c.text << ": " << platform::take_error_description();
+        ASSERT_EQ(parse_kor_name(text.c_str(), name, eaten), S_OK)
+            << c.text << ": " << platform::take_error_description();
         EXPECT_EQ(name, c.name) << c.text;
         EXPECT_EQ(eaten, c.eaten) << c.text;
         EXPECT_EQ(printed(name), c.canonical) << c.text;
@@ -381,4 +382,4 @@ TEST(KorNameEquality, ComparesTheFieldsOfTheKind)
     }
 }
 
-} // namespace
+}   // namespace

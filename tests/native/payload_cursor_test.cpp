@@ -64,13 +64,14 @@ TEST(PayloadCursor, WideStringLimits)
         std::size_t present;
         enum { ok, overflow, underflow } outcome;
     };
-    for (const test_case& c : std::initializer_list<test_case>{{0, 0, test_case::ok},
-                                                     {3, 3, test_case::ok},
-                                                     {259, 259, test_case::ok},
-                                                     {260, 260, test_case::overflow},
-                                                     {260, 0, test_case::overflow},   // the count is checked first
-                                                     {0xFFFF, 0, test_case::overflow},
-                                                     {2, 1, test_case::underflow}}) {
+    for (const test_case& c :
+         std::initializer_list<test_case>{{0, 0, test_case::ok},
+                                          {3, 3, test_case::ok},
+                                          {259, 259, test_case::ok},
+                                          {260, 260, test_case::overflow},
+                                          {260, 0, test_case::overflow},   // the count is checked first
+                                          {0xFFFF, 0, test_case::overflow},
+                                          {2, 1, test_case::underflow}}) {
         auto bytes = counted_text(c.count, c.present);
         if (c.count == 2)
             bytes.push_back('x');   // 3 bytes of text for 2 units
@@ -93,4 +94,4 @@ TEST(PayloadCursor, WideStringLimits)
     }
 }
 
-} // namespace
+}   // namespace

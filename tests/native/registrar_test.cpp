@@ -40,44 +40,43 @@ TEST(Registrar, RegistrationWritesEveryKeyOfBothScripts)
     ASSERT_EQ(registry::register_script(script_of("korps_appid.rgs"), hive), S_OK);
     ASSERT_EQ(registry::register_script(script_of("kor_moniker.rgs"), hive), S_OK);
     const std::string c = clsid;
-    EXPECT_EQ(hive.dump(),
-              "appid\n"
-              "appid\\korps.dll\n"
-              "appid\\korps.dll [AppID] = {E5693989-AC7B-424D-B28F-89CB8FA28587}\n"
-              "appid\\{e5693989-ac7b-424d-b28f-89cb8fa28587}\n"
-              "appid\\{e5693989-ac7b-424d-b28f-89cb8fa28587} [] = KORPS\n"
-              "clsid\n" +
-                  c + "\n" + c + " [] = Corvane Tarn Moniker\n" + c +
-                  " [AppID] = {E5693989-AC7B-424D-B28F-89CB8FA28587}\n" + c + "\\inprocserver32\n" + c +
-                  "\\inprocserver32 [] = C:\\Program Files\\Orrin\\korps.dll\n" + c +
-                  "\\inprocserver32 [ThreadingModel] = both\n" + c + "\\progid\n" + c +
-                  "\\progid [] = Corvane.Tarn.Moniker.1\n" + c + "\\typelib\n" + c +
-                  "\\typelib [] = {06b6c5a0-7950-11d2-be43-00105a202838}\n" + c + "\\versionindependentprogid\n" +
-                  c +
-                  "\\versionindependentprogid [] = Corvane.Tarn.Moniker\n"
-                  "corvane.tarn.moniker\n"
-                  "corvane.tarn.moniker [] = Corvane Tarn Moniker\n"
-                  "corvane.tarn.moniker.1\n"
-                  "corvane.tarn.moniker.1 [] = Corvane Tarn Moniker\n"
-                  "corvane.tarn.moniker.1\\clsid\n"
-                  "corvane.tarn.moniker.1\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
-                  "corvane.tarn.moniker\\clsid\n"
-                  "corvane.tarn.moniker\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
-                  "corvane.tarn.moniker\\curver\n"
-                  "corvane.tarn.moniker\\curver [] = Corvane.Tarn.Moniker.1\n"
-                  "kor\n"
-                  "kor [] = Kor Moniker\n"
-                  "kor\\clsid\n"
-                  "kor\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
-                  "kor\\curver\n"
-                  "kor\\curver [] = Corvane.Tarn.Moniker.1\n");
+    EXPECT_EQ(hive.dump(), "appid\n"
+                           "appid\\korps.dll\n"
+                           "appid\\korps.dll [AppID] = {E5693989-AC7B-424D-B28F-89CB8FA28587}\n"
+                           "appid\\{e5693989-ac7b-424d-b28f-89cb8fa28587}\n"
+                           "appid\\{e5693989-ac7b-424d-b28f-89cb8fa28587} [] = KORPS\n"
+                           "clsid\n" +
+                               c + "\n" + c + " [] = Corvane Tarn Moniker\n" + c +
+                               " [AppID] = {E5693989-AC7B-424D-B28F-89CB8FA28587}\n" + c + "\\inprocserver32\n" + c +
+                               "\\inprocserver32 [] = C:\\Program Files\\Orrin\\korps.dll\n" + c +
+                               "\\inprocserver32 [ThreadingModel] = both\n" + c + "\\progid\n" + c +
+                               "\\progid [] = Corvane.Tarn.Moniker.1\n" + c + "\\typelib\n" + c +
+                               "\\typelib [] = {06b6c5a0-7950-11d2-be43-00105a202838}\n" + c +
+                               "\\versionindependentprogid\n" + c +
+                               "\\versionindependentprogid [] = Corvane.Tarn.Moniker\n"
+                               "corvane.tarn.moniker\n"
+                               "corvane.tarn.moniker [] = Corvane Tarn Moniker\n"
+                               "corvane.tarn.moniker.1\n"
+                               "corvane.tarn.moniker.1 [] = Corvane Tarn Moniker\n"
+                               "corvane.tarn.moniker.1\\clsid\n"
+                               "corvane.tarn.moniker.1\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
+                               "corvane.tarn.moniker\\clsid\n"
+                               "corvane.tarn.moniker\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
+                               "corvane.tarn.moniker\\curver\n"
+                               "corvane.tarn.moniker\\curver [] = Corvane.Tarn.Moniker.1\n"
+                               "kor\n"
+                               "kor [] = Kor Moniker\n"
+                               "kor\\clsid\n"
+                               "kor\\clsid [] = {DE8AB314-CDD2-4600-8139-6285F46937AC}\n"
+                               "kor\\curver\n"
+                               "kor\\curver [] = Corvane.Tarn.Moniker.1\n");
 }
 
 TEST(Registrar, ReRegistrationRebuildsTheClassAndRemovalKeepsWhatIsNotOurs)
 {
     memory_hive hive;
     hive.create_key(WSTR("CLSID\\{00000000-0000-0000-0000-000000000001}"));   // another class
-    hive.create_key(WSTR("kor\\HostNotes"));                                    // a host's own subkey
+    hive.create_key(WSTR("kor\\HostNotes"));   // a host's own subkey
     const registry::script scripts[] = {script_of("korps_appid.rgs"), script_of("kor_moniker.rgs")};
     for (const auto& s : scripts)
         ASSERT_EQ(registry::register_script(s, hive), S_OK);
@@ -160,4 +159,4 @@ TEST(RegistryScript, QuotesAndPercentSigns)
     EXPECT_EQ(utf8(keys[0].values.at(0).data), "100% {E5693989-AC7B-424D-B28F-89CB8FA28587}");
 }
 
-} // namespace
+}   // namespace

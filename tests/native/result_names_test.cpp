@@ -10,7 +10,7 @@ TEST(ResultNames, NamesAndValues)
 {
     const struct {
         std::uint32_t value;
-        const char* name;         // null: a value the table does not name
+        const char* name;   // null: a value the table does not name
         const char* description;
     } cases[] = {
         {0x00000000, "S_OK", "S_OK (0x00000000)"},
@@ -34,4 +34,4 @@ TEST(ResultNames, NamesAndValues)
     EXPECT_EQ(results::named("s_ok"), std::nullopt) << "names are matched exactly";
 }
 
-} // namespace
+}   // namespace

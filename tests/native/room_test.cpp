@@ -41,4 +41,4 @@ TEST_P(Room, IsWhatTheRendererWritesAndItsTerminator)
 INSTANTIATE_TEST_SUITE_P(All, Room, testing::ValuesIn(samples::load_folder(KORPS_SAMPLES_DIR)),
                          sample_check::test_name);
 
-} // namespace
+}   // namespace

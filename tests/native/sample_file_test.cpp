@@ -9,9 +9,9 @@ namespace {
 TEST(SampleFile, RejectsMalformedRecords)
 {
     const char* bad[] = {
-        "payload: 00\n",                                                          // no record
-        "sample: a\ntext: \"x\"\n",                                               // no event
-        "sample: a\nevent: {074642c0-c9ad-4304-8261-598d4c2a00f9}\n",             // expects nothing
+        "payload: 00\n",   // no record
+        "sample: a\ntext: \"x\"\n",   // no event
+        "sample: a\nevent: {074642c0-c9ad-4304-8261-598d4c2a00f9}\n",   // expects nothing
         "sample: a\nevent: {074642c0-c9ad-4304-8261-598d4c2a00f9}\npayload: 0\ntext: \"\"\n",
         "sample: a\nevent: {074642c0-c9ad-4304-8261}\ntext: \"\"\n",
         "sample: a\nevent: {074642c0-c9ad-4304-8261-598d4c2a00f9}\ntext: unquoted\n",
@@ -31,4 +31,4 @@ TEST(SampleFile, QuotingRoundTrips)
     EXPECT_EQ(parsed[0].text->output, text);
 }
 
-} // namespace
+}   // namespace

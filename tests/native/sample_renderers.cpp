@@ -17,4 +17,4 @@ renderers find_renderers(const GUID& id)
     return row ? renderers{row->xmlRenderer, row->textRenderer} : renderers{};
 }
 
-} // namespace sample_check
+}   // namespace sample_check

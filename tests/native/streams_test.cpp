@@ -132,4 +132,4 @@ TEST(NumberShapes, DigitsAsTheyAreShown)
         EXPECT_EQ(text, expected);
 }
 
-} // namespace
+}   // namespace

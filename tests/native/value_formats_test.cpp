@@ -76,4 +76,4 @@ TEST(ValueFormats, AnEmptyUnitTableIsRefused)
     EXPECT_THROW(unit_row({}, decimal_value()), not_expected);
 }
 
-} // namespace
+}   // namespace

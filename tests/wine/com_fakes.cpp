@@ -17,15 +17,15 @@ std::string guid_name(REFGUID id)
     return "other";
 }
 
-std::string format(const char* pattern, unsigned long a, unsigned long b = 0, unsigned long c = 0,
-                   unsigned long d = 0, unsigned long e = 0, unsigned long f = 0)
+std::string format(const char* pattern, unsigned long a, unsigned long b = 0, unsigned long c = 0, unsigned long d = 0,
+                   unsigned long e = 0, unsigned long f = 0)
 {
     char text[128];
     std::snprintf(text, sizeof text, pattern, a, b, c, d, e, f);
     return text;
 }
 
-} // namespace
+}   // namespace
 
 HRESULT fake_binder::record(const std::string& call, REFIID riid, void** object)
 {

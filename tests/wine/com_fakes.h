@@ -20,8 +20,9 @@ public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** ppv) override
     {
         *ppv = nullptr;
-        const bool found = IsEqualIID(riid, IID_IUnknown) ? answer<First>(ppv)
-                                                          : (answers<First>(riid, ppv) || ... || answers<Rest>(riid, ppv));
+        const bool found = IsEqualIID(riid, IID_IUnknown)
+                               ? answer<First>(ppv)
+                               : (answers<First>(riid, ppv) || ... || answers<Rest>(riid, ppv));
         if (!found)
             return E_NOINTERFACE;
         AddRef();
@@ -56,8 +57,8 @@ public:
 
     HRESULT STDMETHODCALLTYPE BindMac(const BYTE address[6], REFIID riid, void** object) override;
     HRESULT STDMETHODCALLTYPE BindDevice(ULONG deviceType, ULONG address, REFIID riid, void** object) override;
-    HRESULT STDMETHODCALLTYPE BindDeviceEx(ULONG deviceType, ULONG address, ULONG subIndex, ULONG idValue,
-                                           REFIID riid, void** object) override;
+    HRESULT STDMETHODCALLTYPE BindDeviceEx(ULONG deviceType, ULONG address, ULONG subIndex, ULONG idValue, REFIID riid,
+                                           void** object) override;
     HRESULT STDMETHODCALLTYPE BindTransponder(ULONG transponder, REFIID riid, void** object) override;
 
 private:

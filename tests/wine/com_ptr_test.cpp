@@ -29,4 +29,4 @@ TEST(ComPtr, QueryAndDetach)
     EXPECT_EQ(provider.refs, 1);
 }
 
-} // namespace
+}   // namespace

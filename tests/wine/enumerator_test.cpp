@@ -89,14 +89,18 @@ TEST(Enumerator, NextAndSkipAtTheEdges)
         enum { next, skip, reset } op;
         ULONG count;
         HRESULT result;
-        ULONG fetched;     // for next
-        int firstRow;     // for next: the row of the first record, -1 for none
+        ULONG fetched;   // for next
+        int firstRow;   // for next: the row of the first record, -1 for none
     };
     const std::vector<std::vector<script_step>> scripts = {
-        {{script_step::next, 40, S_OK, 40, 0}, {script_step::next, 1, S_FALSE, 0, -1}, {script_step::next, 0, S_OK, 0, -1}},
+        {{script_step::next, 40, S_OK, 40, 0},
+         {script_step::next, 1, S_FALSE, 0, -1},
+         {script_step::next, 0, S_OK, 0, -1}},
         {{script_step::skip, 38, S_OK, 0, 0}, {script_step::next, 5, S_FALSE, 2, 38}},
         {{script_step::next, 0, S_OK, 0, -1}, {script_step::next, 1, S_OK, 1, 0}},
-        {{script_step::skip, 40, S_OK, 0, 0}, {script_step::skip, 0, S_OK, 0, 0}, {script_step::skip, 1, S_FALSE, 0, 0}},
+        {{script_step::skip, 40, S_OK, 0, 0},
+         {script_step::skip, 0, S_OK, 0, 0},
+         {script_step::skip, 1, S_FALSE, 0, 0}},
         {{script_step::skip, 100, S_FALSE, 0, 0}, {script_step::next, 1, S_FALSE, 0, -1}},
         {{script_step::next, 40, S_OK, 40, 0}, {script_step::reset, 0, S_OK, 0, 0}, {script_step::next, 1, S_OK, 1, 0}},
     };
@@ -186,4 +190,4 @@ TEST(Enumerator, ModuleStaysLoadedWhileAnEnumeratorLives)
     EXPECT_EQ(module.DllCanUnloadNow(), S_OK);
 }
 
-} // namespace
+}   // namespace

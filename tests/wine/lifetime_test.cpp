@@ -36,7 +36,8 @@ template <class Interface>
 Interface* class_object()
 {
     Interface* object = nullptr;
-    EXPECT_EQ(module().DllGetClassObject(CLSID_KorMoniker, __uuidof(Interface), reinterpret_cast<void**>(&object)), S_OK);
+    EXPECT_EQ(module().DllGetClassObject(CLSID_KorMoniker, __uuidof(Interface), reinterpret_cast<void**>(&object)),
+              S_OK);
     return object;
 }
 
@@ -242,4 +243,4 @@ TEST_F(Lifetime, NoTaskMemory)
     EXPECT_EQ(CoRevokeMallocSpy(), S_OK);
 }
 
-} // namespace
+}   // namespace

@@ -26,4 +26,3 @@ std::wstring korps_module::path() const
     const DWORD n = GetModuleFileNameW(module_, text, MAX_PATH);
     return std::wstring(text, n);
 }
-

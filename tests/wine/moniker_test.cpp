@@ -95,26 +95,56 @@ protected:
 // native tests cover the grammar, hashing and equality in depth; here the
 // same four names go through each COM method.
 struct name_case {
-    const wchar_t* text;        // as a client might spell it
+    const wchar_t* text;   // as a client might spell it
     const wchar_t* canonical;   // as the moniker prints it
     ULONG kind;
     HRESULT mac, device, extension, transponder;   // getters' answers
-    std::vector<BYTE> bytes;                       // stream form
+    std::vector<BYTE> bytes;   // stream form
     DWORD hash;
     const char* bind;   // the binder call it makes
 };
 
 const HRESULT ok = S_OK, no = E_UNEXPECTED;
 const name_case names[] = {
-    {L"kor:mac-0006b0-1a2b3c", L"kor:mac-0006B0-1A2B3C", 0, ok, no, no, no,
-     {0, 0, 0, 0, 0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C}, 0xB01A2B3C ^ 0x0006,
+    {L"kor:mac-0006b0-1a2b3c",
+     L"kor:mac-0006B0-1A2B3C",
+     0,
+     ok,
+     no,
+     no,
+     no,
+     {0, 0, 0, 0, 0x00, 0x06, 0xB0, 0x1A, 0x2B, 0x3C},
+     0xB01A2B3C ^ 0x0006,
      "BindMac 3C 2B 1A B0 06 00 IDispatch;"},
-    {L"kor:FCN1L-010.0.0.1", L"kor:fcn1l-10.0.0.1", 1, no, ok, no, no,
-     {1, 0, 0, 0, 52, 0, 0, 0, 1, 0, 0, 10}, 0x0A000001 ^ 52, "BindDevice 52 0A000001 IDispatch;"},
-    {L"kor:fcn1l-10.0.0.1,+7,3", L"kor:fcn1l-10.0.0.1,7,3", 2, no, ok, ok, no,
-     {2, 0, 0, 0, 52, 0, 0, 0, 1, 0, 0, 10, 3, 0, 0, 0, 7, 0, 0, 0}, (0x0A000001 & 52) ^ 7 ^ 3,
+    {L"kor:FCN1L-010.0.0.1",
+     L"kor:fcn1l-10.0.0.1",
+     1,
+     no,
+     ok,
+     no,
+     no,
+     {1, 0, 0, 0, 52, 0, 0, 0, 1, 0, 0, 10},
+     0x0A000001 ^ 52,
+     "BindDevice 52 0A000001 IDispatch;"},
+    {L"kor:fcn1l-10.0.0.1,+7,3",
+     L"kor:fcn1l-10.0.0.1,7,3",
+     2,
+     no,
+     ok,
+     ok,
+     no,
+     {2, 0, 0, 0, 52, 0, 0, 0, 1, 0, 0, 10, 3, 0, 0, 0, 7, 0, 0, 0},
+     (0x0A000001 & 52) ^ 7 ^ 3,
      "BindDeviceEx 52 0A000001 3 7 IDispatch;"},
-    {L"kor:transponder-12", L"kor:transponder-12", 3, no, no, no, ok, {3, 0, 0, 0, 12, 0, 0, 0}, 12,
+    {L"kor:transponder-12",
+     L"kor:transponder-12",
+     3,
+     no,
+     no,
+     no,
+     ok,
+     {3, 0, 0, 0, 12, 0, 0, 0},
+     12,
      "BindTransponder 12 IDispatch;"},
 };
 
@@ -122,8 +152,8 @@ TEST_F(Moniker, ClassObjectComesFromTheModule)
 {
     auto& module = korps_module::get();
     com_ptr<IUnknown> identity = class_object<IUnknown>();
-    for (const IID* iid : {&IID_IClassFactory, &IID_IParseDisplayName, &IID_IClassFromStreamFactory,
-                           &IID_ICreateKorMoniker}) {
+    for (const IID* iid :
+         {&IID_IClassFactory, &IID_IParseDisplayName, &IID_IClassFromStreamFactory, &IID_ICreateKorMoniker}) {
         com_ptr<IUnknown> part;
         ASSERT_EQ(module.DllGetClassObject(CLSID_KorMoniker, *iid, part.put_void()), S_OK);
         EXPECT_EQ(query<IUnknown>(part.get()).get(), identity.get()) << "one object answers them all";
@@ -168,7 +198,7 @@ TEST_F(Moniker, ParseDisplayName)
         HRESULT result;
         ULONG eaten;
         const wchar_t* canonical;   // on success
-        const char* description;    // of the error object on failure
+        const char* description;   // of the error object on failure
     };
     const test_case cases[] = {
         {L"kor:FCN1L-10.0.0.1", S_OK, 18, L"kor:fcn1l-10.0.0.1", ""},
@@ -336,7 +366,9 @@ TEST_F(Moniker, StreamFailures)
     stream.read = [&](void*, ULONG, ULONG*) { return fail_with_description(STG_E_READFAULT, L"the disk went away"); };
     EXPECT_EQ(moniker->Load(&stream), STG_E_READFAULT);
     EXPECT_EQ(platform::take_error_description(), "the disk went away");
-    stream.write = [&](const void*, ULONG, ULONG*) { return fail_with_description(STG_E_ACCESSDENIED, L"no write access"); };
+    stream.write = [&](const void*, ULONG, ULONG*) {
+        return fail_with_description(STG_E_ACCESSDENIED, L"no write access");
+    };
     EXPECT_EQ(moniker->Save(&stream, TRUE), STG_E_ACCESSDENIED);
     EXPECT_EQ(platform::take_error_description(), "no write access");
 
@@ -491,4 +523,4 @@ TEST_F(Moniker, ComposeWith)
     EXPECT_EQ(mksys, static_cast<DWORD>(MKSYS_GENERICCOMPOSITE));
 }
 
-} // namespace
+}   // namespace

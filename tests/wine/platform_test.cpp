@@ -53,7 +53,8 @@ TEST(Platform, Utf8ConversionStaysInItsBuffer)
         std::size_t size;
         const wchar_t* expected;
     };
-    for (const test_case& c : {test_case{1, L""}, test_case{2, L"c"}, test_case{4, L"caf"}, test_case{5, L"caf\u00E9"}, test_case{9, L"caf\u00E9"}}) {
+    for (const test_case& c : {test_case{1, L""}, test_case{2, L"c"}, test_case{4, L"caf"}, test_case{5, L"caf\u00E9"},
+                               test_case{9, L"caf\u00E9"}}) {
         std::array<wchar_t, 10> buffer;
         buffer.fill(0xCCCC);
         platform::utf8_to_utf16("caf\xC3\xA9", buffer.data(), c.size);
@@ -68,4 +69,4 @@ TEST(Platform, DescriptionsAreUtf8)
     EXPECT_EQ(platform::take_error_description(), "caf\xC3\xA9");
 }
 
-} // namespace
+}   // namespace

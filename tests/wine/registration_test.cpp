@@ -156,9 +156,14 @@ TEST_F(Registration, EveryMarshalledInterfaceWithItsMethodCount)
 TEST_F(Registration, UnregistrationRemovesTheClassAndKeepsTheRoots)
 {
     ASSERT_EQ(module().DllUnregisterServer(), S_OK);
-    const std::wstring removed[] = {L"kor", L"Corvane.Tarn.Moniker", L"Corvane.Tarn.Moniker.1", clsid,
-                                    L"AppID\\" + app_id, L"AppID\\KORPS.DLL",
-                                    std::wstring(L"Interface\\") + interfaces[0].iid, L"CLSID\\" + proxy_clsid};
+    const std::wstring removed[] = {L"kor",
+                                    L"Corvane.Tarn.Moniker",
+                                    L"Corvane.Tarn.Moniker.1",
+                                    clsid,
+                                    L"AppID\\" + app_id,
+                                    L"AppID\\KORPS.DLL",
+                                    std::wstring(L"Interface\\") + interfaces[0].iid,
+                                    L"CLSID\\" + proxy_clsid};
     for (const std::wstring& gone : removed)
         EXPECT_FALSE(key_exists(gone)) << gone;
     EXPECT_TRUE(key_exists(L"AppID"));
@@ -211,9 +216,9 @@ TEST_F(Registration, AMonikerAnswersAcrossApartments)
     ASSERT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
     {
         com_ptr<ICreateKorMoniker> create;
-        ASSERT_EQ(CoGetClassObject(CLSID_KorMoniker, CLSCTX_INPROC_SERVER, nullptr, IID_ICreateKorMoniker,
-                                   create.put_void()),
-                  S_OK);
+        ASSERT_EQ(
+            CoGetClassObject(CLSID_KorMoniker, CLSCTX_INPROC_SERVER, nullptr, IID_ICreateKorMoniker, create.put_void()),
+            S_OK);
         com_ptr<IMoniker> moniker;
         ASSERT_EQ(create->CreateDeviceMoniker(52, 0x0A000001, moniker.put()), S_OK);
         IStream* stream = nullptr;
@@ -255,4 +260,4 @@ TEST_F(Registration, AMonikerAnswersAcrossApartments)
     CoUninitialize();
 }
 
-} // namespace
+}   // namespace

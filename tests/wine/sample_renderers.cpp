@@ -26,4 +26,4 @@ renderers find_renderers(const GUID& id)
     return found;
 }
 
-} // namespace sample_check
+}   // namespace sample_check

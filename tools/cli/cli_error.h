@@ -14,4 +14,4 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-} // namespace cli
+}   // namespace cli

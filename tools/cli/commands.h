@@ -15,4 +15,4 @@ void add_name(CLI::App& app, int& exit_code);
 // lines and lines starting with "#" ignored.
 void register_alarm_file(const std::string& path);
 
-} // namespace cli
+}   // namespace cli

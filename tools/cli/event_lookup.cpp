@@ -17,7 +17,7 @@ std::string lower(std::string text)
     return text;
 }
 
-} // namespace
+}   // namespace
 
 std::string utf8(wstring_view text)
 {
@@ -69,4 +69,4 @@ const event_type_row& find_event(const std::string& which)
     }
 }
 
-} // namespace cli
+}   // namespace cli

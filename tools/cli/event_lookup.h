@@ -16,4 +16,4 @@ std::size_t index_of(const event_type_row& row);
 std::string guid_text(const GUID& id);
 std::string utf8(wstring_view text);
 
-} // namespace cli
+}   // namespace cli

@@ -33,4 +33,4 @@ void add_list(CLI::App& app, int& exit_code)
     });
 }
 
-} // namespace cli
+}   // namespace cli

@@ -93,7 +93,7 @@ std::string difference(const form_result& r, const samples::expectation& e)
     return "";
 }
 
-} // namespace
+}   // namespace
 
 void add_log(CLI::App& app, int& exit_code)
 {
@@ -103,7 +103,8 @@ void add_log(CLI::App& app, int& exit_code)
     log->add_option("FILE", path, "The log: a file, or - for standard input")->required();
     log->add_flag("--json", json, "One JSON object a line");
     log->add_flag("--check", check, "Compare each sample with its expected outputs");
-    log->add_option("--color", colour, "Texts in their display colour")->check(CLI::IsMember({"auto", "always", "never"}));
+    log->add_option("--color", colour, "Texts in their display colour")
+        ->check(CLI::IsMember({"auto", "always", "never"}));
     log->callback([&exit_code] {
         samples::register_alarm_types(&alarm_types::register_records);
         const std::vector<samples::sample> events = read_log(path);
@@ -116,9 +117,9 @@ void add_log(CLI::App& app, int& exit_code)
             if (!row)
                 throw usage_error(s.file + ":" + std::to_string(s.line) + ": the module renders no event type " +
                                   guid_text(s.event));
-            nlohmann::ordered_json j{{"file", s.file}, {"line", s.line}, {"sample", s.name},
-                                     {"index", index_of(*row)}, {"event", utf8(row->name)},
-                                     {"guid", guid_text(*row->eventType)}};
+            nlohmann::ordered_json j{{"file", s.file},           {"line", s.line},
+                                     {"sample", s.name},         {"index", index_of(*row)},
+                                     {"event", utf8(row->name)}, {"guid", guid_text(*row->eventType)}};
             if (!json)
                 std::printf("-- %s:%d  %s  [%zu %s]\n", s.file.c_str(), s.line, s.name.c_str(), index_of(*row),
                             utf8(row->name).c_str());
@@ -156,14 +157,14 @@ void add_log(CLI::App& app, int& exit_code)
         std::string failures;
         for (const auto& [name, count] : by_result)
             failures += (failures.empty() ? ": " : ", ") + name + " " + std::to_string(count);
-        std::fprintf(json ? stderr : stdout,
-                     "%zu events: %d renderings succeeded, %d failed (%d as expected%s)%s\n", events.size(),
-                     rendered, failed_expectedly + failed_unexpectedly, failed_expectedly, failures.c_str(),
-                     check ? (differing ? (", " + std::to_string(differing) + " differ from the expected outputs").c_str()
-                                        : ", every output as expected")
-                           : "");
+        std::fprintf(
+            json ? stderr : stdout, "%zu events: %d renderings succeeded, %d failed (%d as expected%s)%s\n",
+            events.size(), rendered, failed_expectedly + failed_unexpectedly, failed_expectedly, failures.c_str(),
+            check ? (differing ? (", " + std::to_string(differing) + " differ from the expected outputs").c_str()
+                               : ", every output as expected")
+                  : "");
         exit_code = failed_unexpectedly || differing ? failed : success;
     });
 }
 
-} // namespace cli
+}   // namespace cli

@@ -44,8 +44,8 @@ std::string hex(const std::vector<std::uint8_t>& bytes)
 
 std::string dotted(std::uint32_t a)
 {
-    return std::to_string(a >> 24) + "." + std::to_string(a >> 16 & 0xFF) + "." + std::to_string(a >> 8 & 0xFF) +
-           "." + std::to_string(a & 0xFF);
+    return std::to_string(a >> 24) + "." + std::to_string(a >> 16 & 0xFF) + "." + std::to_string(a >> 8 & 0xFF) + "." +
+           std::to_string(a & 0xFF);
 }
 
 // What the name holds, as JSON: its form, its fields, the canonical text, the
@@ -87,10 +87,11 @@ nlohmann::ordered_json describe(const KorName& name)
 void print_fields(const nlohmann::ordered_json& j)
 {
     for (const auto& [key, value] : j.items())
-        std::printf("%-12s %s\n", key.c_str(), value.is_string() ? value.get<std::string>().c_str() : value.dump().c_str());
+        std::printf("%-12s %s\n", key.c_str(),
+                    value.is_string() ? value.get<std::string>().c_str() : value.dump().c_str());
 }
 
-} // namespace
+}   // namespace
 
 void add_name(CLI::App& app, int& exit_code)
 {
@@ -140,12 +141,13 @@ void add_name(CLI::App& app, int& exit_code)
                 j["length"] = wide.size();
             } catch (const std::exception& e) {
                 if (json) {
-                    std::printf("%s\n", nlohmann::ordered_json{{"text", text}, {"error", e.what()}, {"position", stopped}}
-                                            .dump(2)
-                                            .c_str());
+                    std::printf("%s\n",
+                                nlohmann::ordered_json{{"text", text}, {"error", e.what()}, {"position", stopped}}
+                                    .dump(2)
+                                    .c_str());
                 } else {
-                    std::fprintf(stderr, "korps: '%s' is not a kor: name: %s\n  %s\n  %*s^ at unit %zu\n",
-                                 text.c_str(), e.what(), text.c_str(), static_cast<int>(stopped), "", stopped);
+                    std::fprintf(stderr, "korps: '%s' is not a kor: name: %s\n  %s\n  %*s^ at unit %zu\n", text.c_str(),
+                                 e.what(), text.c_str(), static_cast<int>(stopped), "", stopped);
                 }
                 exit_code = failed;
                 return;
@@ -159,4 +161,4 @@ void add_name(CLI::App& app, int& exit_code)
     });
 }
 
-} // namespace cli
+}   // namespace cli

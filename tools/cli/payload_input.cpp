@@ -62,4 +62,4 @@ std::vector<std::uint8_t> read_payload(const std::vector<std::string>& arguments
     return hex_bytes(text, "the payload");
 }
 
-} // namespace cli
+}   // namespace cli

@@ -16,4 +16,4 @@ std::vector<std::uint8_t> hex_bytes(const std::string& text, const std::string& 
 // The whole of a file or, for "-", of standard input.
 std::string read_all(const std::string& path);
 
-} // namespace cli
+}   // namespace cli

@@ -29,8 +29,7 @@ void register_alarm_file(const std::string& path)
         try {
             id = samples::parse_event_id(line.substr(0, blank));
         } catch (const samples::format_error&) {
-            throw usage_error(path + ":" + std::to_string(number) + ": '" + line.substr(0, blank) +
-                              "' is not a GUID");
+            throw usage_error(path + ":" + std::to_string(number) + ": '" + line.substr(0, blank) + "' is not a GUID");
         }
         std::string name = line.substr(line.find_first_not_of(" \t", blank));
         while (!name.empty() && (name.back() == '\r' || name.back() == ' '))
@@ -49,8 +48,9 @@ void add_render(CLI::App& app, int& exit_code)
     static bool text_only = false, xml_only = false, json = false;
     static std::size_t capacity = ample_capacity;
     render->add_option("EVENT", event, "Event type: index, GUID or name (see 'korps list')")->required();
-    render->add_option("PAYLOAD", hex, "Payload bytes in hexadecimal (blanks allowed), @FILE for raw bytes, "
-                                       "- for raw bytes from standard input; none for an empty payload");
+    render->add_option("PAYLOAD", hex,
+                       "Payload bytes in hexadecimal (blanks allowed), @FILE for raw bytes, "
+                       "- for raw bytes from standard input; none for an empty payload");
     auto* t = render->add_flag("--text", text_only, "Only the text form");
     render->add_flag("--xml", xml_only, "Only the XML form")->excludes(t);
     render->add_option("--capacity", capacity, "Render into a buffer of this many UTF-16 units, as a host would")
@@ -75,13 +75,16 @@ void add_render(CLI::App& app, int& exit_code)
         for (const form_result& f : forms)
             ok = ok && f.result == S_OK;
         if (json) {
-            nlohmann::ordered_json j{{"index", index_of(row)}, {"guid", guid_text(*row.eventType)},
-                                     {"name", utf8(row.name)}, {"payload_bytes", payload.size()}};
+            nlohmann::ordered_json j{{"index", index_of(row)},
+                                     {"guid", guid_text(*row.eventType)},
+                                     {"name", utf8(row.name)},
+                                     {"payload_bytes", payload.size()}};
             for (const form_result& f : forms)
                 j[f.text ? "text" : "xml"] = to_json(f);
             std::printf("%s\n", j.dump(2).c_str());
         } else {
-            std::printf("%s  (index %zu, %s)\n", utf8(row.name).c_str(), index_of(row), guid_text(*row.eventType).c_str());
+            std::printf("%s  (index %zu, %s)\n", utf8(row.name).c_str(), index_of(row),
+                        guid_text(*row.eventType).c_str());
             for (const form_result& f : forms)
                 print(f, use_colour(colour));
             if (!text_only && !row.xmlRenderer)
@@ -91,4 +94,4 @@ void add_render(CLI::App& app, int& exit_code)
     });
 }
 
-} // namespace cli
+}   // namespace cli

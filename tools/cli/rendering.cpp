@@ -16,7 +16,7 @@ std::string utf8_of(const std::u16string& text)
     return utf8(wstring_view(reinterpret_cast<const wchar*>(text.data()), text.size()));
 }
 
-} // namespace
+}   // namespace
 
 form_result render_form(const event_type_row& row, bool text, std::span<const std::uint8_t> payload,
                         std::size_t capacity)
@@ -86,4 +86,4 @@ void print(const form_result& r, bool colour_text)
         std::printf("  the whole %s needs %zu units with its terminator\n", form, r.needed);
 }
 
-} // namespace cli
+}   // namespace cli

@@ -15,10 +15,10 @@ namespace cli {
 struct form_result {
     bool text = true;
     HRESULT result = S_OK;
-    std::u16string output;      // what the buffer holds afterwards
+    std::u16string output;   // what the buffer holds afterwards
     std::uint32_t colour = 0;   // text form, on success
-    std::string error;          // the error object's description
-    std::size_t needed = 0;     // units the whole output needs, NUL included (0: not measurable)
+    std::string error;   // the error object's description
+    std::size_t needed = 0;   // units the whole output needs, NUL included (0: not measurable)
 };
 
 inline constexpr std::size_t ample_capacity = 1 << 16;
@@ -35,4 +35,4 @@ nlohmann::ordered_json to_json(const form_result& r);
 // and what the buffer holds.
 void print(const form_result& r, bool colour_text);
 
-} // namespace cli
+}   // namespace cli

@@ -32,4 +32,4 @@ std::string coloured(const std::string& text, std::uint32_t colour, bool enabled
     return start + text + "\x1b[0m";
 }
 
-} // namespace cli
+}   // namespace cli

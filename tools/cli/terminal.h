@@ -12,4 +12,4 @@ bool use_colour(const std::string& when);
 
 std::string coloured(const std::string& text, std::uint32_t colour, bool enabled);
 
-} // namespace cli
+}   // namespace cli

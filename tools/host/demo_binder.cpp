@@ -30,11 +30,11 @@ private:
 
 std::string dotted(ULONG a)
 {
-    return std::to_string(a >> 24) + "." + std::to_string(a >> 16 & 0xFF) + "." + std::to_string(a >> 8 & 0xFF) +
-           "." + std::to_string(a & 0xFF);
+    return std::to_string(a >> 24) + "." + std::to_string(a >> 16 & 0xFF) + "." + std::to_string(a >> 8 & 0xFF) + "." +
+           std::to_string(a & 0xFF);
 }
 
-} // namespace
+}   // namespace
 
 HRESULT demo_binder::QueryInterface(REFIID riid, void** ppv)
 {

@@ -16,7 +16,7 @@ public:
     std::string last_request;
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** ppv) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }    // lives on the host's stack
+    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }   // lives on the host's stack
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
 
     // IServiceProvider
@@ -25,8 +25,8 @@ public:
     // IKorBinder
     HRESULT STDMETHODCALLTYPE BindMac(const BYTE address[6], REFIID riid, void** object) override;
     HRESULT STDMETHODCALLTYPE BindDevice(ULONG deviceType, ULONG address, REFIID riid, void** object) override;
-    HRESULT STDMETHODCALLTYPE BindDeviceEx(ULONG deviceType, ULONG address, ULONG subIndex, ULONG idValue,
-                                           REFIID riid, void** object) override;
+    HRESULT STDMETHODCALLTYPE BindDeviceEx(ULONG deviceType, ULONG address, ULONG subIndex, ULONG idValue, REFIID riid,
+                                           void** object) override;
     HRESULT STDMETHODCALLTYPE BindTransponder(ULONG transponder, REFIID riid, void** object) override;
 
 private:

@@ -112,7 +112,8 @@ void render_form(const EVENTUI& type, const samples::sample& s, bool text, bool 
         if (!text)
             std::printf("%s\n", output.c_str());
         else if (colour)
-            std::printf("  \x1b[38;2;%u;%u;%um%s\x1b[0m\n", rgb & 0xFF, rgb >> 8 & 0xFF, rgb >> 16 & 0xFF, output.c_str());
+            std::printf("  \x1b[38;2;%u;%u;%um%s\x1b[0m\n", rgb & 0xFF, rgb >> 8 & 0xFF, rgb >> 16 & 0xFF,
+                        output.c_str());
         else
             std::printf("  %s  [#%02X%02X%02X]\n", output.c_str(), rgb & 0xFF, rgb >> 8 & 0xFF, rgb >> 16 & 0xFF);
     } else {
@@ -162,7 +163,8 @@ bool bind_device_name(const wchar_t* name)
     HRESULT result = MkParseDisplayName(context, name, &eaten, &moniker);
     bool ok = SUCCEEDED(result);
     if (!ok) {
-        std::printf("  %s: %s %s\n", utf8(name).c_str(), results::describe(result).c_str(), error_description().c_str());
+        std::printf("  %s: %s %s\n", utf8(name).c_str(), results::describe(result).c_str(),
+                    error_description().c_str());
     } else {
         LPOLESTR canonical = nullptr;
         moniker->GetDisplayName(context, nullptr, &canonical);
@@ -180,7 +182,7 @@ bool bind_device_name(const wchar_t* name)
     return ok;
 }
 
-} // namespace
+}   // namespace
 
 int main(int argc, char** argv)
 {
