@@ -107,7 +107,8 @@ void add_name(CLI::App& app, int& exit_code)
         if (!from_stream.empty()) {
             byte_buffer stream;
             stream.bytes = hex_bytes(from_stream, "--from-stream");
-            const char* why = nullptr;
+            // The reason is copied out: the exception's text dies with it.
+            std::string why;
             try {
                 load_kor_name(parsed, stream);
             } catch (const not_expected&) {
@@ -115,8 +116,8 @@ void add_name(CLI::App& app, int& exit_code)
             } catch (const std::exception& e) {
                 why = e.what();
             }
-            if (why) {
-                std::fprintf(stderr, "korps: the stream holds no name: %s\n", why);
+            if (!why.empty()) {
+                std::fprintf(stderr, "korps: the stream holds no name: %s\n", why.c_str());
                 exit_code = failed;
                 return;
             }
