@@ -187,7 +187,7 @@ HRESULT CKorMoniker::IsEqual(IMoniker* pmkOtherMoniker)
         return E_UNEXPECTED;
     KorName theirs;
     theirs.kind = kind;
-    if (FAILED(row->read_from(other.get(), theirs)))
+    if (FAILED(row->readFrom(other.get(), theirs)))
         return E_UNEXPECTED;
     return theirs == name_ ? S_OK : S_FALSE;
 }
