@@ -112,6 +112,17 @@ consteval bool values_are_positions(const Row (&table)[N])
     return values_are_positions(std::span<const Row>(table));
 }
 
+// Row i belongs to enumerator i, and the last row to `last`: for tables of
+// behaviour indexed by an enumeration through the rows' `key`.
+template <class Row, std::size_t N, class Enum>
+consteval bool one_row_per_enumerator(const Row (&table)[N], Enum Row::*key, Enum last)
+{
+    for (std::size_t i = 0; i < N; ++i)
+        if (table[i].*key != static_cast<Enum>(i))
+            return false;
+    return N == static_cast<std::size_t>(last) + 1;
+}
+
 // Texts differ from row to row and contain no upper-case letter.
 consteval bool texts_unique_lower_case(std::span<const OptionEntry> table)
 {

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/mask_walk.h"
+#include "core/option_entry.h"
 #include "core/platform.h"
 #include "core/text_format.h"
 #include "core/utf16le.h"
@@ -79,14 +80,8 @@ constexpr body_row bodies[] = {
     {body::routes_b, route_lists<routes::layout_b>},
 };
 
-consteval bool one_row_per_body()
-{
-    for (std::size_t i = 0; i < std::size(bodies); ++i)
-        if (bodies[i].kind != static_cast<body>(i))
-            return false;
-    return std::size(bodies) == static_cast<std::size_t>(body::routes_b) + 1;
-}
-static_assert(one_row_per_body(), "each body kind has its row, at its own position");
+static_assert(one_row_per_enumerator(bodies, &body_row::kind, body::routes_b),
+              "each body kind has its row, at its own position");
 
 void write_section(payload_cursor& in, ui::event::xml_output& out, const section& s)
 {

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "core/mask_walk.h"
+#include "core/option_entry.h"
 #include "devices/value_formats.h"
 
 namespace family_a {
@@ -103,14 +104,8 @@ constexpr value_kind value_kinds[] = {
     handled_as<plain_kind<&payload_cursor::read_u64, formats::mac_address>>(value::mac),
 };
 
-consteval bool one_row_per_kind()
-{
-    for (std::size_t i = 0; i < std::size(value_kinds); ++i)
-        if (value_kinds[i].kind != static_cast<value>(i))
-            return false;
-    return std::size(value_kinds) == static_cast<std::size_t>(value::mac) + 1;
-}
-static_assert(one_row_per_kind(), "each kind of value has its row, at its own position");
+static_assert(one_row_per_enumerator(value_kinds, &value_kind::kind, value::mac),
+              "each kind of value has its row, at its own position");
 
 const value_kind& kind_of(const field& f) noexcept
 {

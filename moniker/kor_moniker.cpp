@@ -81,9 +81,7 @@ HRESULT CKorMoniker::Load(IStream* pStm)
         return E_POINTER;
     return guarded([&] {
         stream_bytes in(pStm);
-        KorName loaded;
-        load_kor_name(loaded, in);
-        name_ = loaded;   // a Load that fails leaves the moniker as it was
+        load_kor_name(name_, in);   // whole or not at all: a Load that fails leaves the moniker as it was
         return S_OK;
     });
 }
