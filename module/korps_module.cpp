@@ -1,6 +1,8 @@
 #include "module/korps_module.h"
 
+#include <cstring>
 #include <string>
+#include <vector>
 
 #include "core/boundary.h"
 #include "core/module_lock.h"
@@ -45,10 +47,9 @@ std::wstring module_path()
     }
 }
 
-// The text of a REGISTRY resource, widened from its UTF-8 bytes.
-std::wstring script_text(UINT resource)
+// The text of a REGISTRY resource of `module`, widened from its UTF-8 bytes.
+std::wstring script_text(HMODULE module, UINT resource)
 {
-    const HMODULE module = this_module();
     HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(resource), L"REGISTRY");
     HGLOBAL loaded = found ? LoadResource(module, found) : nullptr;
     const char* bytes = loaded ? static_cast<const char*>(LockResource(loaded)) : nullptr;
@@ -58,6 +59,62 @@ std::wstring script_text(UINT resource)
     std::wstring wide(text.size() + 1, L'\0');
     wide.resize(platform::utf8_to_utf16(text, wide.data(), wide.size()));
     return wide;
+}
+
+// The keys of one REGISTRY resource, for the module at `path`.
+registry::script script_keys(HMODULE resources, UINT resource, const std::wstring& path)
+{
+    const registry::replacement replacements[] = {{"APPID", CKORPSModule::app_id}, {"MODULE", path}};
+    try {
+        return registry::parse_script(script_text(resources, resource), replacements);
+    } catch (const registry::script_error& e) {
+        throw registry::script_error("REGISTRY " + std::to_string(resource) + ": " + e.what());
+    }
+}
+
+std::wstring guid_text(const GUID& guid)
+{
+    wchar_t text[39];
+    StringFromGUID2(guid, text, 39);
+    return text;
+}
+
+struct marshalled_interface {
+    IID iid;
+    std::wstring name;
+    unsigned long methods;
+};
+
+std::vector<marshalled_interface> marshalled_interfaces()
+{
+    std::vector<marshalled_interface> all;
+    korps_proxy_interfaces(
+        [](void* list, const IID* iid, const char* name, unsigned long methods) {
+            static_cast<std::vector<marshalled_interface>*>(list)->push_back(
+                {*iid, std::wstring(name, name + std::strlen(name)), methods});
+        },
+        &all);
+    return all;
+}
+
+// What the platform's proxy registration writes for the merged proxy/stub:
+// each interface under its IID, pointing at the proxy/stub class, and that
+// class served by the module. Its removal takes each of these keys whole.
+registry::script proxy_keys(const std::wstring& path)
+{
+    using registry::flag;
+    const std::wstring proxy_class = guid_text(*korps_proxy_class());
+    registry::script keys;
+    for (const marshalled_interface& i : marshalled_interfaces()) {
+        const std::wstring key = L"Interface\\" + guid_text(i.iid);
+        keys.push_back({key, flag::force_remove, {{L"", i.name}}});
+        keys.push_back({key + L"\\NumMethods", flag::none, {{L"", std::to_wstring(i.methods)}}});
+        keys.push_back({key + L"\\ProxyStubClsid32", flag::none, {{L"", proxy_class}}});
+    }
+    const std::wstring class_key = L"CLSID\\" + proxy_class;
+    keys.push_back({class_key, flag::force_remove, {{L"", L"PSFactoryBuffer"}}});
+    keys.push_back({class_key + L"\\InprocServer32", flag::none, {{L"", path}, {L"ThreadingModel", L"Both"}}});
+    return keys;
 }
 
 }   // namespace
@@ -97,16 +154,21 @@ HRESULT CKORPSModule::CanUnloadNow() noexcept
     return lifetime::lock_count() == 0 ? S_OK : S_FALSE;
 }
 
+registry::script CKORPSModule::RegistryKeys(HMODULE resources, const std::wstring& path)
+{
+    registry::script keys = script_keys(resources, app_id_script, path);
+    for (const class_entry& c : object_map) {
+        registry::script more = script_keys(resources, c.script, path);
+        keys.insert(keys.end(), more.begin(), more.end());
+    }
+    registry::script proxies = proxy_keys(path);
+    keys.insert(keys.end(), proxies.begin(), proxies.end());
+    return keys;
+}
+
 void CKORPSModule::RunScript(UINT resource, bool install)
 {
-    const std::wstring path = module_path();
-    const registry::replacement replacements[] = {{"APPID", app_id}, {"MODULE", path}};
-    registry::script keys;
-    try {
-        keys = registry::parse_script(script_text(resource), replacements);
-    } catch (const registry::script_error& e) {
-        throw registry::script_error("REGISTRY " + std::to_string(resource) + ": " + e.what());
-    }
+    const registry::script keys = script_keys(this_module(), resource, module_path());
     registry::classes_root classes;
     const HRESULT result =
         install ? registry::register_script(keys, classes) : registry::unregister_script(keys, classes);

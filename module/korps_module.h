@@ -3,6 +3,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 
 #include <objbase.h>
 
@@ -33,6 +34,12 @@ public:
     HRESULT UnregisterServer() noexcept;
 
     static std::span<const class_entry> ObjectMap() noexcept;
+
+    // Every key that registration writes for the module at `path`, in the
+    // order it writes them: the scripts that `resources` (a korps.dll)
+    // carries, then what the platform's proxy registration writes for the
+    // merged proxy/stub. Installer packages are made from these.
+    static registry::script RegistryKeys(HMODULE resources, const std::wstring& path);
 
 private:
     CKORPSModule() = default;

@@ -20,3 +20,18 @@ HRESULT korps_proxy_unregister(HMODULE module)
 {
     return NdrDllUnregisterProxy(module, aProxyFileList, &CLSID_PSFactoryBuffer);
 }
+
+const CLSID* korps_proxy_class(void)
+{
+    return &CLSID_PSFactoryBuffer;
+}
+
+void korps_proxy_interfaces(korps_proxy_interface_fn each, void* context)
+{
+    for (const ProxyFileInfo* const* file = aProxyFileList; *file; ++file) {
+        for (unsigned short i = 0; i < (*file)->TableSize; ++i) {
+            const CInterfaceStubHeader* header = &(*file)->pStubVtblList[i]->header;
+            each(context, header->piid, (*file)->pNamesArray[i], header->DispatchTableCount);
+        }
+    }
+}

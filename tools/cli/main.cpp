@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "korps_version.h"
 #include "tools/cli/cli_error.h"
 #include "tools/cli/commands.h"
 
@@ -18,6 +19,7 @@ int main(int argc, char** argv)
     CLI::App app{"korps: render management-server event payloads and take kor: device names apart"};
     app.require_subcommand(1);
     app.set_help_all_flag("--help-all", "Help on every command");
+    app.set_version_flag("--version", "korps " KORPS_VERSION_TEXT);
     int exit_code = cli::success;
     cli::add_list(app, exit_code);
     cli::add_render(app, exit_code);
@@ -35,6 +37,8 @@ int main(int argc, char** argv)
     } catch (const CLI::CallForHelp& e) {
         return app.exit(e);
     } catch (const CLI::CallForAllHelp& e) {
+        return app.exit(e);
+    } catch (const CLI::CallForVersion& e) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
         app.exit(e);
