@@ -2,6 +2,8 @@
 // codes, and JSON that parses back.
 #include <gtest/gtest.h>
 
+#include "korps_version.h"
+
 #include <array>
 #include <cstdio>
 #include <string>
@@ -39,6 +41,7 @@ TEST(CommandLine, ArgumentsMessagesAndExitCodes)
         std::string says;   // a piece of what it prints
     } cases[] = {
         {"--help", 0, "Subcommands:"},
+        {"--version", 0, "korps " KORPS_VERSION_TEXT},
         {"render --help", 0, "--capacity"},
         {"log --help", 0, "--check"},
         {"name --help", 0, "--from-stream"},

@@ -57,6 +57,19 @@ std::string file_bytes(const std::wstring& path)
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
+// The version resource's file version, as "major.minor.patch.build".
+std::wstring file_version(const std::wstring& path)
+{
+    std::vector<BYTE> block(GetFileVersionInfoSizeW(path.c_str(), nullptr));
+    VS_FIXEDFILEINFO* fixed = nullptr;
+    UINT size = 0;
+    if (block.empty() || !GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data()) ||
+        !VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&fixed), &size))
+        return L"(none)";
+    return std::to_wstring(HIWORD(fixed->dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(fixed->dwFileVersionMS)) +
+           L"." + std::to_wstring(HIWORD(fixed->dwFileVersionLS)) + L"." + std::to_wstring(LOWORD(fixed->dwFileVersionLS));
+}
+
 // The folder of this test program: the build folder, with the build's korps.dll.
 std::wstring build_folder()
 {
@@ -386,6 +399,7 @@ TEST_F(Package, InstallsSilentlyWithItsFilesAndVersion)
         EXPECT_TRUE(file_exists(file)) << testing::PrintToString(file);
     EXPECT_EQ(file_bytes(module), file_bytes(build_folder() + L"\\korps.dll"))
         << "the package holds another korps.dll than this build's: run scripts/package";
+    EXPECT_EQ(file_version(module), widen(KORPS_VERSION_TEXT) + L".0");
 
     // What the installed programs list shows.
     const std::wstring key = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + product_code;
