@@ -27,7 +27,7 @@ namespace registry {
 inline constexpr wchar module_path_marker = 0xE000;
 
 struct installer_row {
-    wstring key;    // below HKEY_CLASSES_ROOT, as the installer's formatted text
+    wstring key;   // below HKEY_CLASSES_ROOT, as the installer's formatted text
     wstring name;   // empty: the key's default value
     wstring data;   // as the installer's formatted text
 };

@@ -5,7 +5,13 @@
 #define ENTRY_PREFIX korps_proxy_
 #define PROXY_DELEGATION
 /* {5B0C3D52-6F0A-4C41-9E7B-3A1D2C4F8E61}: the proxy/stub class of korps.dll. */
-#define PROXY_CLSID_IS {0x5b0c3d52, 0x6f0a, 0x4c41, {0x9e, 0x7b, 0x3a, 0x1d, 0x2c, 0x4f, 0x8e, 0x61}}
+#define PROXY_CLSID_IS                                                                                                 \
+    {                                                                                                                  \
+        0x5b0c3d52, 0x6f0a, 0x4c41,                                                                                    \
+        {                                                                                                              \
+            0x9e, 0x7b, 0x3a, 0x1d, 0x2c, 0x4f, 0x8e, 0x61                                                             \
+        }                                                                                                              \
+    }
 
 #include "dlldata.c"
 

@@ -2,14 +2,14 @@
 // codes, and JSON that parses back.
 #include <gtest/gtest.h>
 
-#include "korps_version.h"
-
 #include <array>
 #include <cstdio>
 #include <string>
 #include <sys/wait.h>
 
 #include <nlohmann/json.hpp>
+
+#include "korps_version.h"
 
 namespace {
 

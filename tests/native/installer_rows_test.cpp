@@ -75,8 +75,9 @@ TEST(InstallerRows, WixIncludeQuotesItsAttributes)
     const std::vector<registry::installer_row> rows = {{WSTR("A&B"), WSTR(""), WSTR("<\"x\">")},
                                                        {WSTR("K"), WSTR("N"), WSTR("v")}};
     const std::string text = registry::wix_include(rows, "a test");
-    EXPECT_NE(text.find("<RegistryValue Root=\"HKCR\" Key=\"A&amp;B\" Type=\"string\" Value=\"&lt;&quot;x&quot;&gt;\"/>"),
-              std::string::npos)
+    EXPECT_NE(
+        text.find("<RegistryValue Root=\"HKCR\" Key=\"A&amp;B\" Type=\"string\" Value=\"&lt;&quot;x&quot;&gt;\"/>"),
+        std::string::npos)
         << text;
     EXPECT_NE(text.find("<RegistryValue Root=\"HKCR\" Key=\"K\" Name=\"N\" Type=\"string\" Value=\"v\"/>"),
               std::string::npos)

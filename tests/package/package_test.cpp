@@ -67,7 +67,8 @@ std::wstring file_version(const std::wstring& path)
         !VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&fixed), &size))
         return L"(none)";
     return std::to_wstring(HIWORD(fixed->dwFileVersionMS)) + L"." + std::to_wstring(LOWORD(fixed->dwFileVersionMS)) +
-           L"." + std::to_wstring(HIWORD(fixed->dwFileVersionLS)) + L"." + std::to_wstring(LOWORD(fixed->dwFileVersionLS));
+           L"." + std::to_wstring(HIWORD(fixed->dwFileVersionLS)) + L"." +
+           std::to_wstring(LOWORD(fixed->dwFileVersionLS));
 }
 
 // The folder of this test program: the build folder, with the build's korps.dll.
@@ -115,7 +116,8 @@ DWORD run(std::wstring command_line)
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
+    if (!CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                        &process)) {
         ADD_FAILURE() << "cannot start " << testing::PrintToString(command_line) << ": error " << GetLastError();
         return ~DWORD{0};
     }

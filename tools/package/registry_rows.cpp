@@ -32,7 +32,8 @@ int main(int argc, char** argv)
     if (argc != 4)
         return fail("usage: korps-registry-rows KORPS.DLL FILE-ID OUTPUT.wxi");
     const std::string dll = argv[1], file_id = argv[2], output = argv[3];
-    const HMODULE module = LoadLibraryExA(dll.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
+    const HMODULE module =
+        LoadLibraryExA(dll.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
     if (!module)
         return fail("cannot read " + dll + " (error " + std::to_string(GetLastError()) + ")");
     std::string text;
