@@ -13,6 +13,7 @@
 #include "core/com_ptr.h"
 #include "korps/korps_interfaces.h"
 #include "tests/wine/module_fixture.h"
+#include "tests/wine/parse_through_platform.h"
 
 namespace {
 
@@ -193,20 +194,10 @@ TEST_F(Registration, ClassObjectsAndUnloading)
 
 TEST_F(Registration, ThePlatformParsesKorNamesThroughTheScheme)
 {
-    ASSERT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)));
-    {
-        com_ptr<IBindCtx> context;
-        ASSERT_EQ(CreateBindCtx(0, context.put()), S_OK);
-        ULONG eaten = 0;
-        com_ptr<IMoniker> moniker;
-        ASSERT_EQ(MkParseDisplayName(context.get(), L"kor:fcn1l-10.0.0.1", &eaten, moniker.put()), S_OK);
-        EXPECT_EQ(eaten, 18u);
-        LPOLESTR name = nullptr;
-        ASSERT_EQ(moniker->GetDisplayName(context.get(), nullptr, &name), S_OK);
-        EXPECT_STREQ(name, L"kor:fcn1l-10.0.0.1");
-        CoTaskMemFree(name);
-    }
-    CoUninitialize();
+    const platform_parse parsed = parse_through_platform(L"kor:fcn1l-10.0.0.1");
+    ASSERT_EQ(parsed.result, S_OK);
+    EXPECT_EQ(parsed.eaten, 18u);
+    EXPECT_EQ(parsed.displayName, L"kor:fcn1l-10.0.0.1");
 }
 
 // A moniker made in one single-threaded apartment and called from another
