@@ -343,10 +343,15 @@ std::string differences(const registry_image& expected, const registry_image& ac
 
 // ---- the fixture ----------------------------------------------------------
 
+// The package of one width, where scripts/package puts it.
+std::wstring package_of(const char* width)
+{
+    return widen(KORPS_PACKAGE_DIR) + L"\\korps-" + widen(KORPS_VERSION_TEXT) + L"-" + widen(width) + L".msi";
+}
+
 class Package : public testing::Test {
 protected:
-    const std::wstring package =
-        widen(KORPS_PACKAGE_DIR) + L"\\korps-" + widen(KORPS_VERSION_TEXT) + L"-" + widen(arch) + L".msi";
+    const std::wstring package = package_of(arch);
     const std::wstring module = installed_folder() + L"\\korps.dll";
     const std::wstring module32 = installed_folder32() + L"\\korps.dll";
     std::wstring product_code, upgrade_code;
@@ -362,12 +367,13 @@ protected:
 
     void TearDown() override { remove_everything(); }
 
-    // Whatever a failed test left behind: every product of the package's
+    // Whatever a failed test left behind: every product of either package's
     // upgrade code, and a registration by hand.
     void remove_everything()
     {
-        for (const std::wstring& product : related_products(upgrade_code))
-            msiexec(L"/x " + product, "cleanup");
+        for (const char* width : {"x86", "x64"})
+            for (const std::wstring& product : related_products(package_property(package_of(width), L"UpgradeCode")))
+                msiexec(L"/x " + product, "cleanup");
         regsvr32(L"/u " + quoted(build_folder() + L"\\korps.dll"));
     }
 
@@ -542,5 +548,27 @@ TEST_F(Package, RemovalLeavesNoFileOrKeyOfOursAndKeepsForeignOnes)
     RegDeleteTreeW(HKEY_CLASSES_ROOT, foreign_interface.c_str());
     RegDeleteTreeW(HKEY_CLASSES_ROOT, L"Corvane.Tarn.Moniker");
 }
+
+#ifdef _WIN64
+// Where both packages are installed, the 32-bit module is one component with
+// two clients: it and its registration stay until the last of them goes.
+TEST_F(Package, BothPackagesShareThe32BitModule)
+{
+    const std::wstring package32 = package_of("x86");
+    ASSERT_TRUE(file_exists(package32)) << testing::PrintToString(package32) << " is missing: run scripts/package";
+    ASSERT_EQ(install(), 0u);
+    ASSERT_EQ(msiexec(L"/i " + quoted(package32), "install-x86"), 0u);
+
+    ASSERT_EQ(remove(), 0u);
+    EXPECT_FALSE(file_exists(module));
+    EXPECT_TRUE(file_exists(module32));
+    EXPECT_EQ(interface_count(our_registry(KEY_WOW64_32KEY, module32)), 46u);
+    EXPECT_EQ(lower(default_value(moniker_class + L"\\InprocServer32", KEY_WOW64_32KEY)), lower(module32));
+
+    ASSERT_EQ(msiexec(L"/x " + quoted(package32), "remove-x86"), 0u);
+    EXPECT_FALSE(file_exists(module32));
+    EXPECT_TRUE(our_registry(KEY_WOW64_32KEY, module32).empty());
+}
+#endif
 
 }   // namespace
