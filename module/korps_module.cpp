@@ -61,6 +61,16 @@ std::wstring script_text(HMODULE module, UINT resource)
     return wide;
 }
 
+// The REGISTRY resources registration runs, in its order: the AppID's, then
+// each class's. Removal runs them the other way round.
+std::vector<UINT> registry_scripts()
+{
+    std::vector<UINT> scripts{CKORPSModule::app_id_script};
+    for (const CKORPSModule::class_entry& c : object_map)
+        scripts.push_back(c.script);
+    return scripts;
+}
+
 // The keys of one REGISTRY resource, for the module at `path`.
 registry::script script_keys(HMODULE resources, UINT resource, const std::wstring& path)
 {
@@ -156,9 +166,9 @@ HRESULT CKORPSModule::CanUnloadNow() noexcept
 
 registry::script CKORPSModule::RegistryKeys(HMODULE resources, const std::wstring& path)
 {
-    registry::script keys = script_keys(resources, app_id_script, path);
-    for (const class_entry& c : object_map) {
-        registry::script more = script_keys(resources, c.script, path);
+    registry::script keys;
+    for (const UINT resource : registry_scripts()) {
+        registry::script more = script_keys(resources, resource, path);
         keys.insert(keys.end(), more.begin(), more.end());
     }
     registry::script proxies = proxy_keys(path);
@@ -180,11 +190,10 @@ HRESULT CKORPSModule::RegisterServer() noexcept
 {
     const thread_locale_scope locale(LOCALE_SYSTEM_DEFAULT);
     return guarded([&] {
-        RunScript(app_id_script, true);
         // The moniker class declares no component categories, so there are
         // none to register after its script.
-        for (const class_entry& c : object_map)
-            RunScript(c.script, true);
+        for (const UINT resource : registry_scripts())
+            RunScript(resource, true);
         return korps_proxy_register(this_module());
     });
 }
@@ -194,9 +203,9 @@ HRESULT CKORPSModule::UnregisterServer() noexcept
     const thread_locale_scope locale(LOCALE_SYSTEM_DEFAULT);
     return guarded([&] {
         HRESULT result = korps_proxy_unregister(this_module());
-        for (const class_entry& c : object_map)
-            RunScript(c.script, false);
-        RunScript(app_id_script, false);
+        const std::vector<UINT> scripts = registry_scripts();
+        for (auto resource = scripts.rbegin(); resource != scripts.rend(); ++resource)
+            RunScript(*resource, false);
         return result;
     });
 }

@@ -24,6 +24,7 @@
 #include "include/korps/korps_events.h"
 #include "korps_version.h"
 #include "tests/wine/parse_through_platform.h"
+#include "tests/wine/registry_text.h"
 
 namespace {
 
@@ -233,19 +234,6 @@ std::vector<std::wstring> related_products(const std::wstring& upgrade_code)
 const std::wstring proxy_class = L"{5B0C3D52-6F0A-4C41-9E7B-3A1D2C4F8E61}";
 const std::wstring moniker_class = L"CLSID\\{DE8AB314-CDD2-4600-8139-6285F46937AC}";
 
-// A key's default string value in a view of HKEY_CLASSES_ROOT, or "(absent)".
-std::wstring default_value(const std::wstring& path, REGSAM view = 0)
-{
-    HKEY key = nullptr;
-    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, path.c_str(), 0, KEY_READ | view, &key) != ERROR_SUCCESS)
-        return L"(absent)";
-    wchar_t text[512];
-    DWORD bytes = sizeof text;
-    const LSTATUS status = RegGetValueW(key, nullptr, nullptr, RRF_RT_REG_SZ, nullptr, text, &bytes);
-    RegCloseKey(key);
-    return status == ERROR_SUCCESS ? text : L"(absent)";
-}
-
 // The keys registration writes, found by name: the scheme, the ProgIDs, the
 // classes, the AppID and every interface whose proxy/stub is ours.
 std::vector<std::wstring> our_keys(REGSAM view)
@@ -266,7 +254,7 @@ std::vector<std::wstring> our_keys(REGSAM view)
         if (RegEnumKeyExW(interfaces, i, name, &size, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS)
             break;
         const std::wstring key = L"Interface\\" + std::wstring(name);
-        if (lower(default_value(key + L"\\ProxyStubClsid32", view)) == lower(proxy_class))
+        if (lower(classes_text(key + L"\\ProxyStubClsid32", nullptr, view)) == lower(proxy_class))
             keys.push_back(key);
     }
     RegCloseKey(interfaces);
@@ -410,15 +398,8 @@ TEST_F(Package, InstallsSilentlyWithItsFilesAndVersion)
 
     // What the installed programs list shows.
     const std::wstring key = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\" + product_code;
-    wchar_t text[256];
-    DWORD bytes = sizeof text;
-    ASSERT_EQ(RegGetValueW(HKEY_LOCAL_MACHINE, key.c_str(), L"DisplayVersion", RRF_RT_REG_SZ, nullptr, text, &bytes),
-              ERROR_SUCCESS);
-    EXPECT_STREQ(text, widen(KORPS_VERSION_TEXT).c_str());
-    bytes = sizeof text;
-    ASSERT_EQ(RegGetValueW(HKEY_LOCAL_MACHINE, key.c_str(), L"DisplayName", RRF_RT_REG_SZ, nullptr, text, &bytes),
-              ERROR_SUCCESS);
-    EXPECT_EQ(text, package_property(package, L"ProductName"));
+    EXPECT_EQ(registry_text(HKEY_LOCAL_MACHINE, key, L"DisplayVersion"), widen(KORPS_VERSION_TEXT));
+    EXPECT_EQ(registry_text(HKEY_LOCAL_MACHINE, key, L"DisplayName"), package_property(package, L"ProductName"));
 }
 
 // The package's rows against what registration writes, for the build's
@@ -438,8 +419,8 @@ TEST_F(Package, WritesWhatRegistrationWritesKeyByKey)
     ASSERT_EQ(install(), 0u);
     for (const auto& [view, path] : views()) {
         const registry_image image = our_registry(view, path);
-        EXPECT_EQ(image, registered) << (view ? "32-bit view" : "the package's own view") << "\n"
-                                     << differences(registered, image);
+        EXPECT_TRUE(image == registered) << (view ? "32-bit view" : "the package's own view") << "\n"
+                                         << differences(registered, image);
     }
 }
 
@@ -486,9 +467,9 @@ TEST_F(Package, RepairRestoresADeletedKeyAndFile)
     ASSERT_TRUE(DeleteFileW(program.c_str()));
 
     ASSERT_EQ(msiexec(L"/i " + quoted(package) + L" REINSTALL=ALL REINSTALLMODE=a", "repair"), 0u);
-    EXPECT_EQ(default_value(L"kor"), L"Kor Moniker");
+    EXPECT_EQ(classes_text(L"kor"), L"Kor Moniker");
     for (const auto& [view, path] : views())
-        EXPECT_EQ(lower(default_value(moniker_class + L"\\InprocServer32", view)), lower(path));
+        EXPECT_EQ(lower(classes_text(moniker_class + L"\\InprocServer32", nullptr, view)), lower(path));
     EXPECT_TRUE(file_exists(program));
 }
 
@@ -506,7 +487,7 @@ TEST_F(Package, ANewerPackageReplacesAnOlderOne)
     EXPECT_FALSE(installed(older_product));
     for (const auto& [view, path] : views()) {
         EXPECT_EQ(interface_count(our_registry(view, path)), 46u);
-        EXPECT_EQ(lower(default_value(moniker_class + L"\\InprocServer32", view)), lower(path));
+        EXPECT_EQ(lower(classes_text(moniker_class + L"\\InprocServer32", nullptr, view)), lower(path));
     }
 
     // Removing the newer one leaves nothing of either.
@@ -533,12 +514,12 @@ TEST_F(Package, RemovalLeavesNoFileOrKeyOfOursAndKeepsForeignOnes)
                                          {L"corvane.tarn.moniker\\foreign", L"(key)"},
                                          {L"corvane.tarn.moniker\\foreign : ", L"kept"}};
     const registry_image left = our_registry(0, module);
-    EXPECT_EQ(left, foreign_only) << differences(foreign_only, left);
+    EXPECT_TRUE(left == foreign_only) << differences(foreign_only, left);
     if (carries_both_modules) {
         EXPECT_TRUE(our_registry(KEY_WOW64_32KEY, module32).empty());
     }
     for (const std::wstring& key : {foreign_class, foreign_interface})
-        EXPECT_EQ(default_value(key), L"kept") << testing::PrintToString(key);
+        EXPECT_EQ(classes_text(key), L"kept") << testing::PrintToString(key);
     EXPECT_FALSE(file_exists(installed_folder())) << "the installation folder is still there";
     if (carries_both_modules) {
         EXPECT_FALSE(file_exists(installed_folder32()));
@@ -563,7 +544,7 @@ TEST_F(Package, BothPackagesShareThe32BitModule)
     EXPECT_FALSE(file_exists(module));
     EXPECT_TRUE(file_exists(module32));
     EXPECT_EQ(interface_count(our_registry(KEY_WOW64_32KEY, module32)), 46u);
-    EXPECT_EQ(lower(default_value(moniker_class + L"\\InprocServer32", KEY_WOW64_32KEY)), lower(module32));
+    EXPECT_EQ(lower(classes_text(moniker_class + L"\\InprocServer32", nullptr, KEY_WOW64_32KEY)), lower(module32));
 
     ASSERT_EQ(msiexec(L"/x " + quoted(package32), "remove-x86"), 0u);
     EXPECT_FALSE(file_exists(module32));

@@ -14,22 +14,13 @@
 #include "korps/korps_interfaces.h"
 #include "tests/wine/module_fixture.h"
 #include "tests/wine/parse_through_platform.h"
+#include "tests/wine/registry_text.h"
 
 namespace {
 
 const std::wstring clsid = L"CLSID\\{DE8AB314-CDD2-4600-8139-6285F46937AC}";
 const std::wstring app_id = L"{E5693989-AC7B-424D-B28F-89CB8FA28587}";
 const std::wstring proxy_clsid = L"{5B0C3D52-6F0A-4C41-9E7B-3A1D2C4F8E61}";
-
-// A string value under HKEY_CLASSES_ROOT, or "(absent)".
-std::wstring value_of(const std::wstring& key, const wchar_t* name = nullptr)
-{
-    wchar_t text[512];
-    DWORD bytes = sizeof text;
-    if (RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &bytes) != ERROR_SUCCESS)
-        return L"(absent)";
-    return text;
-}
 
 bool key_exists(const std::wstring& key)
 {
@@ -135,11 +126,11 @@ protected:
 TEST_F(Registration, WritesEveryKeyAndValueOfBothScripts)
 {
     for (const expected_value& v : registered_values())
-        EXPECT_EQ(value_of(v.key, v.name), v.data) << v.key << " " << (v.name ? v.name : L"(default)");
+        EXPECT_EQ(classes_text(v.key, v.name), v.data) << v.key << " " << (v.name ? v.name : L"(default)");
     // Registering again leaves the same keys.
     ASSERT_EQ(module().DllRegisterServer(), S_OK);
     for (const expected_value& v : registered_values())
-        EXPECT_EQ(value_of(v.key, v.name), v.data) << v.key;
+        EXPECT_EQ(classes_text(v.key, v.name), v.data) << v.key;
 }
 
 TEST_F(Registration, EveryMarshalledInterfaceWithItsMethodCount)
@@ -147,11 +138,11 @@ TEST_F(Registration, EveryMarshalledInterfaceWithItsMethodCount)
     static_assert(std::size(interfaces) == 46);
     for (const auto& i : interfaces) {
         const std::wstring key = std::wstring(L"Interface\\") + i.iid;
-        EXPECT_EQ(value_of(key + L"\\ProxyStubClsid32"), proxy_clsid) << i.name;
-        EXPECT_EQ(value_of(key + L"\\NumMethods"), std::to_wstring(i.methods)) << i.name;
-        EXPECT_EQ(value_of(key), i.name);
+        EXPECT_EQ(classes_text(key + L"\\ProxyStubClsid32"), proxy_clsid) << i.name;
+        EXPECT_EQ(classes_text(key + L"\\NumMethods"), std::to_wstring(i.methods)) << i.name;
+        EXPECT_EQ(classes_text(key), i.name);
     }
-    EXPECT_EQ(value_of(L"CLSID\\" + proxy_clsid + L"\\InprocServer32"), module().path());
+    EXPECT_EQ(classes_text(L"CLSID\\" + proxy_clsid + L"\\InprocServer32"), module().path());
 }
 
 TEST_F(Registration, UnregistrationRemovesTheClassAndKeepsTheRoots)
