@@ -13,10 +13,18 @@ as_root() {
 # KORPS_WINE32=guest asks for it.
 root32_boots() { [ "${KORPS_WINE32:-}" = guest ] || ! "$scripts_dir/probe-i386"; }
 
+# apt-get as RUNNER (as_root, or a chroot) runs it: waiting for the package
+# lock rather than failing where the machine's own updates hold it.
+apt_get() {
+    local runner="$1"
+    shift
+    "$runner" env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=600 "$@"
+}
+
 # apt-get update, once more after a pause: a mirror mid-sync fails an index
 # now and then. What is left broken, the install that follows reports.
 apt_update() {
-    "$@" apt-get update -qq || { sleep 5; "$@" apt-get update -qq; } || true
+    apt_get "$1" update -qq || { sleep 5; apt_get "$1" update -qq; } || true
 }
 
 # run_wine 32|64 FOLDER PROGRAM [ARGS...]: runs PROGRAM under the Wine of
