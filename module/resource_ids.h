@@ -1,5 +1,6 @@
-// The module's resource ids, for korps.rc and for the code that loads them.
-// The manifest and the version use the platform's own ids
+// The module's resource ids, for korps.rc and for the code that loads them;
+// the build reads the REGISTRY ids from here for the module's file checks
+// (module.StaticChecks). The manifest and the version use the platform's own ids
 // (ISOLATIONAWARE_MANIFEST_RESOURCE_ID, VS_VERSION_INFO).
 #pragma once
 
