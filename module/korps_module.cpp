@@ -20,7 +20,7 @@ IUnknown* moniker_class_object() noexcept
 }
 
 constexpr CKORPSModule::class_entry object_map[] = {
-    {&CLSID_KorMoniker, moniker_class_object, 102},
+    {&CLSID_KorMoniker, moniker_class_object, IDR_REGISTRY_KOR_MONIKER},
 };
 
 // This module, found by an address inside it.

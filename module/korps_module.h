@@ -8,11 +8,12 @@
 #include <objbase.h>
 
 #include "module/registrar.h"
+#include "module/resource_ids.h"
 
 class CKORPSModule {
 public:
     static constexpr const wchar_t* app_id = L"{E5693989-AC7B-424D-B28F-89CB8FA28587}";
-    static constexpr UINT app_id_script = 101;   // REGISTRY resource
+    static constexpr UINT app_id_script = IDR_REGISTRY_APPID;
 
     // One creatable class: its cached class object and its registry script.
     struct class_entry {
