@@ -12,21 +12,23 @@ project's version. Prints one "ok:" line for each check that passes and one
 
 import argparse
 import sys
+import xml.etree.ElementTree as ElementTree
 
 import pefile
 
 # Each machine's PE format: the file header's machine and the optional
-# header's magic.
+# header's magic; and the processor architecture a manifest names it by.
 MACHINES = {
-    "i386": ("PE32", pefile.MACHINE_TYPE["IMAGE_FILE_MACHINE_I386"], pefile.OPTIONAL_HEADER_MAGIC_PE),
-    "x86-64": ("PE32+", pefile.MACHINE_TYPE["IMAGE_FILE_MACHINE_AMD64"], pefile.OPTIONAL_HEADER_MAGIC_PE_PLUS),
+    "i386": ("PE32", pefile.MACHINE_TYPE["IMAGE_FILE_MACHINE_I386"], pefile.OPTIONAL_HEADER_MAGIC_PE, "x86"),
+    "x86-64": ("PE32+", pefile.MACHINE_TYPE["IMAGE_FILE_MACHINE_AMD64"], pefile.OPTIONAL_HEADER_MAGIC_PE_PLUS,
+               "amd64"),
 }
 RT_MANIFEST = pefile.RESOURCE_TYPE["RT_MANIFEST"]
 MANIFEST_ID = 2  # the one the loader reads for a DLL
 
 
 def check_header(pe, args):
-    form, machine, magic = MACHINES[args.machine]
+    form, machine, magic, _ = MACHINES[args.machine]
     faults = []
     if pe.FILE_HEADER.Machine != machine:
         faults.append(f"PE machine {pe.FILE_HEADER.Machine:#x}; {args.machine} is {machine:#x}")
@@ -90,11 +92,42 @@ def file_version(pe):
     return ".".join(map(str, parts)), texts
 
 
+def manifest_identity(pe):
+    """The assemblyIdentity attributes of the manifest the loader reads;
+    none where there is no such manifest or it is not XML."""
+    directory = getattr(pe, "DIRECTORY_ENTRY_RESOURCE", None)
+    for rtype in directory.entries if directory else []:
+        for entry in rtype.directory.entries if rtype.id == RT_MANIFEST else []:
+            if entry.id == MANIFEST_ID:
+                data = entry.directory.entries[0].data.struct
+                try:
+                    root = ElementTree.fromstring(pe.get_data(data.OffsetToData, data.Size))
+                except ElementTree.ParseError:
+                    return {}
+                identity = root.find("{urn:schemas-microsoft-com:asm.v1}assemblyIdentity")
+                return {} if identity is None else identity.attrib
+    return {}
+
+
+def check_manifest(pe, args):
+    """A manifest of another architecture or version than the module's keeps
+    the loader from making the module's activation context."""
+    identity = manifest_identity(pe)
+    want = {"processorArchitecture": MACHINES[args.machine][3], "version": four_part(args.version)}
+    faults = [f"the manifest's {name} is '{identity.get(name)}', the module's {value}"
+              for name, value in want.items() if identity.get(name) != value]
+    return "manifest for " + " ".join(want.values()), faults
+
+
+def four_part(version):
+    parts = version.split(".")
+    return ".".join(parts + ["0"] * (4 - len(parts)))
+
+
 def check_resources(pe, args):
     found = resources(pe)
     faults = []
-    parts = args.version.split(".")
-    want = ".".join(parts + ["0"] * (4 - len(parts)))
+    want = four_part(args.version)
     version, texts = file_version(pe)
     if version is None:
         faults.append("no version resource")
@@ -133,7 +166,7 @@ def main():
         print(f"FAIL: {args.module}: {error}")
         return 1
     failed = False
-    for check in (check_header, check_exports, check_imports, check_resources):
+    for check in (check_header, check_exports, check_imports, check_resources, check_manifest):
         summary, faults = check(pe, args)
         for fault in faults:
             print(f"FAIL: {fault}")
