@@ -14,7 +14,6 @@
 #include <memory>
 #include <vector>
 
-#include "core/guid.h"
 #include "core/platform.h"
 #include "events/alarm_type_map.h"
 #include "fuzz/fuzz_check.h"
@@ -22,7 +21,6 @@
 
 namespace {
 
-constexpr GUID alarm_status_changed = make_guid("b2ece055-145c-4686-9f1d-2c3577e541dd");
 constexpr std::size_t name_room = 64;
 char names[256][name_room];
 
@@ -65,14 +63,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     alarm_types::register_records(static_cast<int>(registered), records);
 
-    const event_type_row* row = find_event_type(alarm_status_changed);
-    FUZZ_REQUIRE(row != nullptr);
+    const event_type_row& row = event_type(korps_event::ALARM_STATUS_CHANGED);
     const std::size_t bytes = size - at;
     const auto payload = std::make_unique<std::uint8_t[]>(bytes);
     std::copy(data + at, data + size, payload.get());
     for (const bool text : {true, false}) {
-        check(*row, text, payload.get(), bytes, 4096);
-        check(*row, text, payload.get(), bytes, cut);
+        check(row, text, payload.get(), bytes, 4096);
+        check(row, text, payload.get(), bytes, cut);
     }
     return 0;
 }
