@@ -108,14 +108,10 @@ private:
     std::size_t room_;   // units left, NUL included; 0 when nothing may be written
 };
 
-template <class Char>
-class generic_error_t;
-
 // A message given whole.
-template <>
-class generic_error_t<wchar_t> : public wide_message_error {
+class generic_error : public wide_message_error {
 public:
-    explicit generic_error_t(wstring_view text) : text_(text) {}
+    explicit generic_error(wstring_view text) : text_(text) {}
     void format(wchar* buffer, std::size_t size) const override { message_writer(buffer, size) << wstring_view(text_); }
     const wstring& text() const noexcept { return text_; }
 

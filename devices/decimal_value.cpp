@@ -7,7 +7,7 @@ namespace {
 
 [[noreturn]] void overflow()
 {
-    throw generic_error_t<wchar_t>(messages::decimal_overflow);
+    throw generic_error(messages::decimal_overflow);
 }
 
 std::uint64_t magnitude_of(std::int64_t mantissa) noexcept

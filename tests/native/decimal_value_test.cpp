@@ -24,7 +24,7 @@ std::string overflow_text(F f)
 {
     try {
         f();
-    } catch (const generic_error_t<wchar_t>& e) {
+    } catch (const generic_error& e) {
         return utf8(wstring_view(e.text()));
     }
     return "";

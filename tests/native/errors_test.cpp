@@ -14,7 +14,7 @@ TEST(Errors, MessagesAndHierarchy)
     EXPECT_STREQ(io::underflow().what(), "an underflow occured");
     EXPECT_STREQ(not_expected().what(), "Catastrophic failure");
     EXPECT_STREQ(text::integer_overflow().what(), "integer overflow");
-    EXPECT_STREQ(generic_error_t<wchar_t>(WSTR("decimal overflow")).what(), "decimal overflow");
+    EXPECT_STREQ(generic_error(WSTR("decimal overflow")).what(), "decimal overflow");
     EXPECT_STREQ(io::expected_value<char>("-").what(), "Expected a char with a value of '-'.");
     EXPECT_STREQ(io::expected_value<char[2]>("-").what(), "Expected a char [2] with a value of '-'.");
     EXPECT_STREQ(io::unexpected_value<char>('-').what(), "Encountered a char with an enexpected value of '-'.");
