@@ -2,6 +2,7 @@
 
 #include <typeinfo>
 
+#include "core/com_ptr.h"
 #include "core/errors.h"
 #include "core/platform.h"
 
@@ -21,21 +22,19 @@ HRESULT exception_result(const std::exception& e) noexcept
 {
     const std::type_info& type = typeid(e);
     HRESULT result = DISP_E_EXCEPTION;
-    com::error_info* info = nullptr;
+    com_ptr<com::error_info> info;
 
     if (type == typeid(com::error)) {
         const auto& error = static_cast<const com::error&>(e);
         result = error.code();
-        info = error.info();
-        platform::add_ref(info);
+        info = com_ptr<com::error_info>::share(error.info());
     } else if (type == typeid(not_expected)) {
         result = E_UNEXPECTED;
     } else {
-        info = describe(e);
+        info = com_ptr<com::error_info>(describe(e));
     }
 
-    platform::set_error_info(info);
-    platform::release(info);
+    platform::set_error_info(info.get());
     return result;
 }
 

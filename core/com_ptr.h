@@ -1,6 +1,8 @@
 // One owned reference to a COM interface, released when the holder goes, so
 // that every path out of a function gives back what it took; and make_com,
-// the one way the module makes its COM objects.
+// the one way the module makes its COM objects. Anything counted with
+// AddRef and Release is held alike: the native build's stand-in error object
+// (core/error_info.h) too, which has no interfaces to query.
 #pragma once
 
 #include <new>
@@ -11,6 +13,7 @@
 template <class Interface>
 class com_ptr;
 
+#ifdef _WIN32
 // What com_ptr::query gives: the interface with S_OK, or null with the
 // object's refusal (E_NOINTERFACE as a rule).
 template <class Interface>
@@ -18,6 +21,7 @@ struct com_query {
     HRESULT result;
     com_ptr<Interface> ptr;
 };
+#endif
 
 template <class Interface>
 class com_ptr {
@@ -25,6 +29,13 @@ public:
     com_ptr() noexcept = default;
     // Takes over a reference the caller already owns.
     explicit com_ptr(Interface* adopted) noexcept : p_(adopted) {}
+    // Takes a reference of its own to an object the caller goes on holding.
+    static com_ptr share(Interface* borrowed) noexcept
+    {
+        if (borrowed)
+            borrowed->AddRef();
+        return com_ptr(borrowed);
+    }
     com_ptr(com_ptr&& other) noexcept : p_(other.detach()) {}
     com_ptr& operator=(com_ptr&& other) noexcept
     {
@@ -60,6 +71,7 @@ public:
     // parameter of a call that succeeded. Holds nothing afterwards.
     [[nodiscard]] Interface* detach() noexcept { return std::exchange(p_, nullptr); }
 
+#ifdef _WIN32
     // The held object's `Other` interface, asked for by its IID (__uuidof,
     // so `Other` is one of the platform's or the module's declared
     // interfaces). Must hold an object.
@@ -70,6 +82,7 @@ public:
         const HRESULT result = p_->QueryInterface(__uuidof(Other), other.put_void());
         return {result, std::move(other)};
     }
+#endif
 
 private:
     Interface* p_ = nullptr;

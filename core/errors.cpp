@@ -22,20 +22,13 @@ std::string message_for(HRESULT code, error_info* info)
 
 }   // namespace
 
-error::error(HRESULT code, error_info* info) : std::runtime_error(message_for(code, info)), code_(code), info_(info)
-{
-    platform::add_ref(info_);
-}
+error::error(HRESULT code, error_info* info)
+    : std::runtime_error(message_for(code, info)), code_(code), info_(com_ptr<error_info>::share(info))
+{}
 
-error::error(const error& other) : std::runtime_error(other), code_(other.code_), info_(other.info_)
-{
-    platform::add_ref(info_);
-}
-
-error::~error()
-{
-    platform::release(info_);
-}
+error::error(const error& other) noexcept
+    : std::runtime_error(other), code_(other.code_), info_(com_ptr<error_info>::share(other.info()))
+{}
 
 }   // namespace com
 

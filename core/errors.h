@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/com_ptr.h"
+#include "core/error_info.h"
 #include "core/messages.h"
 #include "core/text_tokens.h"
 #include "core/win_types.h"
@@ -35,27 +37,21 @@ public:
 
 namespace com {
 
-#ifdef _WIN32
-using error_info = IErrorInfo;
-#else
-struct error_info;   // the native build's stand-in for the thread's error object
-#endif
-
 // A failure that already carries its HRESULT and, optionally, the error object
 // that describes it; both are handed back to the caller unchanged.
 class error : public std::runtime_error {
 public:
+    // Keeps a reference of its own to `info`.
     explicit error(HRESULT code, error_info* info = nullptr);
-    error(const error& other);
+    error(const error& other) noexcept;
     error& operator=(const error&) = delete;
-    ~error() override;
 
     HRESULT code() const noexcept { return code_; }
-    error_info* info() const noexcept { return info_; }
+    error_info* info() const noexcept { return info_.get(); }
 
 private:
     HRESULT code_;
-    error_info* info_;
+    com_ptr<error_info> info_;
 };
 
 }   // namespace com

@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/errors.h"
+#include "core/com_ptr.h"
+#include "core/error_info.h"
 #include "core/wide.h"
 
 namespace platform {
@@ -26,12 +27,10 @@ std::string utf16_to_utf8(wstring_view text, std::size_t limit);
 // the system has none.
 std::string system_message(HRESULT code);
 
-// Error objects: a new one with the given description (null when it cannot be
-// created), its description as UTF-8, and reference handling.
+// Error objects: a new one with the given description, holding its first
+// reference (null when it cannot be created), and its description as UTF-8.
 com::error_info* create_error_info(wstring_view description) noexcept;
 std::string error_info_description(com::error_info* info);
-void add_ref(com::error_info* info) noexcept;
-void release(com::error_info* info) noexcept;
 
 // Hands `info` (or none) to the calling thread, as the object describing the
 // failure that is about to be returned.
@@ -45,10 +44,8 @@ com::error_info* take_error_info() noexcept;
 // object from the thread; empty when there is none.
 inline std::string take_error_description()
 {
-    com::error_info* info = take_error_info();
-    std::string text = error_info_description(info);
-    release(info);
-    return text;
+    const com_ptr<com::error_info> info(take_error_info());
+    return error_info_description(info.get());
 }
 
 // Task memory: what the host frees with its own task allocator.

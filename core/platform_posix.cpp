@@ -1,21 +1,10 @@
 // The native build's side of the platform seam: Windows-1252 stands in for
 // the ANSI code page, and the thread's error object is a thread-local
-// description that the tests and tools read back.
+// stand-in (core/error_info.h) that the tests and tools read back.
 #include "core/platform.h"
 
-#include <atomic>
 #include <cstdio>
 #include <cstdlib>
-#include <utility>
-
-namespace com {
-
-struct error_info {
-    std::atomic<int> refs{1};
-    wstring description;
-};
-
-}   // namespace com
 
 namespace platform {
 namespace {
@@ -28,7 +17,7 @@ constexpr char16_t cp1252_high[32] = {
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
-thread_local com::error_info* current = nullptr;
+thread_local com_ptr<com::error_info> current;
 
 }   // namespace
 
@@ -115,9 +104,7 @@ std::string system_message(HRESULT)
 com::error_info* create_error_info(wstring_view description) noexcept
 {
     try {
-        auto* info = new com::error_info;
-        info->description.assign(description);
-        return info;
+        return new com::error_info(description);
     } catch (...) {
         return nullptr;
     }
@@ -125,31 +112,17 @@ com::error_info* create_error_info(wstring_view description) noexcept
 
 std::string error_info_description(com::error_info* info)
 {
-    return info ? utf16_to_utf8(info->description, 260) : std::string();
-}
-
-void add_ref(com::error_info* info) noexcept
-{
-    if (info)
-        info->refs.fetch_add(1, std::memory_order_relaxed);
-}
-
-void release(com::error_info* info) noexcept
-{
-    if (info && info->refs.fetch_sub(1, std::memory_order_acq_rel) == 1)
-        delete info;
+    return info ? utf16_to_utf8(info->description(), 260) : std::string();
 }
 
 void set_error_info(com::error_info* info) noexcept
 {
-    add_ref(info);
-    release(current);
-    current = info;
+    current = com_ptr<com::error_info>::share(info);
 }
 
 com::error_info* take_error_info() noexcept
 {
-    return std::exchange(current, nullptr);
+    return current.detach();
 }
 
 void* task_alloc(std::size_t bytes) noexcept

@@ -117,18 +117,6 @@ std::string error_info_description(com::error_info* info)
     return text;
 }
 
-void add_ref(com::error_info* info) noexcept
-{
-    if (info)
-        info->AddRef();
-}
-
-void release(com::error_info* info) noexcept
-{
-    if (info)
-        info->Release();
-}
-
 void set_error_info(com::error_info* info) noexcept
 {
     SetErrorInfo(0, info);

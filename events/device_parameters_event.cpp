@@ -3,6 +3,8 @@
 #include <optional>
 #include <stdexcept>
 
+#include "core/com_ptr.h"
+#include "core/errors.h"
 #include "core/platform.h"
 #include "core/text_format.h"
 #include "devices/device_types.h"
@@ -57,10 +59,8 @@ constexpr selection selections[] = {
 
 [[noreturn]] void refuse_other_family()
 {
-    com::error_info* info = platform::create_error_info(messages::unit_family_not_supported);
-    const com::error error(E_NOTIMPL, info);
-    platform::release(info);
-    throw error;
+    const com_ptr<com::error_info> info(platform::create_error_info(messages::unit_family_not_supported));
+    throw com::error(E_NOTIMPL, info.get());
 }
 
 // Reads the record kind, the device type and, for a device record, the

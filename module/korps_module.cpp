@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/boundary.h"
+#include "core/errors.h"
 #include "core/module_lock.h"
 #include "core/platform.h"
 #include "module/proxy_stub.h"

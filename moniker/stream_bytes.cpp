@@ -1,7 +1,6 @@
 #include "moniker/stream_bytes.h"
 
-#include <memory>
-
+#include "core/com_ptr.h"
 #include "core/errors.h"
 #include "core/platform.h"
 
@@ -12,8 +11,7 @@ namespace {
 [[noreturn]] void throw_stream_failure(HRESULT result)
 {
     // Released however the construction of the error ends.
-    const std::unique_ptr<com::error_info, void (*)(com::error_info*)> info(platform::take_error_info(),
-                                                                            platform::release);
+    const com_ptr<com::error_info> info(platform::take_error_info());
     throw com::error(result, info.get());
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "core/boundary.h"
+#include "core/com_ptr.h"
 #include "core/errors.h"
 #include "tests/native/test_text.h"
 
@@ -12,7 +13,7 @@ class derived_not_expected : public not_expected {};
 
 TEST(Boundary, MapsByExactType)
 {
-    com::error_info* carried = platform::create_error_info(WSTR("from the stream"));
+    const com_ptr<com::error_info> carried(platform::create_error_info(WSTR("from the stream")));
     struct test_case {
         const char* name;
         std::function<void()> raise;
@@ -20,7 +21,7 @@ TEST(Boundary, MapsByExactType)
         const char* description;   // null: no error object
     };
     const test_case cases[] = {
-        {"com::error", [&] { throw com::error(static_cast<HRESULT>(0x80030201), carried); },
+        {"com::error", [&] { throw com::error(static_cast<HRESULT>(0x80030201), carried.get()); },
          static_cast<HRESULT>(0x80030201), "from the stream"},
         {"not_expected", [] { throw not_expected(); }, E_UNEXPECTED, nullptr},
         {"io::overflow", [] { throw io::overflow(); }, DISP_E_EXCEPTION, "an overflow occured"},
@@ -37,16 +38,14 @@ TEST(Boundary, MapsByExactType)
             return S_OK;
         });
         EXPECT_EQ(result, c.result) << c.name;
-        com::error_info* info = platform::take_error_info();
+        const com_ptr<com::error_info> info(platform::take_error_info());
         if (c.description) {
-            ASSERT_NE(info, nullptr) << c.name;
-            EXPECT_EQ(platform::error_info_description(info), c.description) << c.name;
+            ASSERT_TRUE(info) << c.name;
+            EXPECT_EQ(platform::error_info_description(info.get()), c.description) << c.name;
         } else {
-            EXPECT_EQ(info, nullptr) << c.name;
+            EXPECT_FALSE(info) << c.name;
         }
-        platform::release(info);
     }
-    platform::release(carried);
 }
 
 TEST(Boundary, AnythingElseIsUnexpectedWithoutAStaleErrorObject)

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 #include <string>
 
+#include "core/com_ptr.h"
 #include "core/errors.h"
 #include "tests/native/test_text.h"
 
@@ -75,15 +77,21 @@ TEST(Errors, ComErrorMessage)
     EXPECT_STREQ(unknown.what(), "unknown error (0x80041234) occurred");
     EXPECT_EQ(unknown.code(), static_cast<HRESULT>(0x80041234));
 
-    com::error_info* info = platform::create_error_info(WSTR("disk on fire"));
-    const com::error described(E_FAIL, info);
-    platform::release(info);
-    EXPECT_STREQ(described.what(), "disk on fire");
-    EXPECT_EQ(described.info(), info) << "the error keeps its own reference";
+    // The error and each copy of it hold a reference of their own (the
+    // sanitizer build sees a use after the object went otherwise).
+    com_ptr<com::error_info> info(platform::create_error_info(WSTR("disk on fire")));
+    com::error_info* const object = info.get();
+    std::optional<com::error> described(std::in_place, E_FAIL, object);
+    info.reset();
+    EXPECT_STREQ(described->what(), "disk on fire");
+    EXPECT_EQ(described->info(), object);
+    const com::error copy(*described);
+    described.reset();
+    EXPECT_EQ(copy.info(), object);
+    EXPECT_EQ(platform::error_info_description(copy.info()), "disk on fire");
 
-    com::error_info* empty = platform::create_error_info(WSTR(""));
-    const com::error undescribed(E_FAIL, empty);
-    platform::release(empty);
+    const com_ptr<com::error_info> empty(platform::create_error_info(WSTR("")));
+    const com::error undescribed(E_FAIL, empty.get());
     EXPECT_STREQ(undescribed.what(), "unknown error (0x80004005) occurred");
 }
 
