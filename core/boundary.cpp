@@ -1,6 +1,7 @@
 #include "core/boundary.h"
 
-#include <typeinfo>
+#include <exception>
+#include <iterator>
 
 #include "core/com_ptr.h"
 #include "core/errors.h"
@@ -8,38 +9,44 @@
 
 namespace {
 
-// A new error object describing `e`; null when none can be made.
-com::error_info* describe(const std::exception& e) noexcept
+// Fails with `result`, leaving `info` (or none) on the thread.
+HRESULT fail(HRESULT result, com::error_info* info) noexcept
 {
-    wchar description[1024];
-    platform::utf8_to_utf16(e.what(), description, std::size(description));
-    return platform::create_error_info(description);
+    platform::set_error_info(info);
+    return result;
+}
+
+// Fails with DISP_E_EXCEPTION and a new error object describing it as
+// `description` says; with none when no object can be made.
+HRESULT fail_described(wstring_view description) noexcept
+{
+    const com_ptr<com::error_info> info(platform::create_error_info(description));
+    return fail(DISP_E_EXCEPTION, info.get());
 }
 
 }   // namespace
 
-HRESULT exception_result(const std::exception& e) noexcept
+HRESULT current_exception_result() noexcept
 {
-    const std::type_info& type = typeid(e);
-    HRESULT result = DISP_E_EXCEPTION;
-    com_ptr<com::error_info> info;
-
-    if (type == typeid(com::error)) {
-        const auto& error = static_cast<const com::error&>(e);
-        result = error.code();
-        info = com_ptr<com::error_info>::share(error.info());
-    } else if (type == typeid(not_expected)) {
-        result = E_UNEXPECTED;
-    } else {
-        info = com_ptr<com::error_info>(describe(e));
+    // Most derived first: a type made from one of the module's errors keeps
+    // that error's result.
+    try {
+        throw;
+    } catch (const com::error& e) {
+        return fail(e.code(), e.info());
+    } catch (const not_expected&) {
+        return fail(E_UNEXPECTED, nullptr);
+    } catch (const wide_message_error& e) {
+        wchar description[260];
+        e.format(description, std::size(description));
+        return fail_described(description);
+    } catch (const std::exception& e) {
+        wchar description[1024];
+        platform::utf8_to_utf16(e.what(), description, std::size(description));
+        return fail_described(description);
+    } catch (...) {
+        // Nothing but std::exception is ever thrown inside the module; should
+        // anything else arrive it still must not unwind into the host.
+        return fail(E_UNEXPECTED, nullptr);
     }
-
-    platform::set_error_info(info.get());
-    return result;
-}
-
-HRESULT unknown_exception_result() noexcept
-{
-    platform::set_error_info(nullptr);
-    return E_UNEXPECTED;
 }

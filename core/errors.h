@@ -71,8 +71,9 @@ public:
 }   // namespace text
 
 // The errors that carry a wide message, made from its pieces on demand and
-// cut to the room of the buffer it is written to (the thread's error object
-// takes it from what(), at most 259 units).
+// cut to the room of the buffer it is written to. The boundary writes it
+// straight into the thread's error object, at most 259 units; what() is the
+// same text as UTF-8, for the module's own tools.
 class wide_message_error : public std::exception {
 public:
     wide_message_error() = default;
@@ -84,7 +85,7 @@ public:
     }
 
     // Writes the message into `buffer` (room for `size` units, NUL included).
-    virtual void format(wchar* buffer, std::size_t size) const = 0;
+    virtual void format(wchar* buffer, std::size_t size) const noexcept = 0;
 
     const char* what() const noexcept override;
 
@@ -108,7 +109,10 @@ private:
 class generic_error : public wide_message_error {
 public:
     explicit generic_error(wstring_view text) : text_(text) {}
-    void format(wchar* buffer, std::size_t size) const override { message_writer(buffer, size) << wstring_view(text_); }
+    void format(wchar* buffer, std::size_t size) const noexcept override
+    {
+        message_writer(buffer, size) << wstring_view(text_);
+    }
     const wstring& text() const noexcept { return text_; }
 
 private:
@@ -122,7 +126,7 @@ namespace io {
 template <class T>
 class expected_type : public wide_message_error {
 public:
-    void format(wchar* buffer, std::size_t size) const override
+    void format(wchar* buffer, std::size_t size) const noexcept override
     {
         message_writer(buffer, size) << messages::expected_a << token_name<T> << messages::end_of_sentence;
     }
@@ -133,7 +137,7 @@ template <class T>
 class expected_value : public wide_message_error {
 public:
     explicit expected_value(std::string value) : value_(std::move(value)) {}
-    void format(wchar* buffer, std::size_t size) const override
+    void format(wchar* buffer, std::size_t size) const noexcept override
     {
         message_writer(buffer, size) << messages::expected_a << token_name<T> << messages::with_a_value_of
                                      << std::string_view(value_) << messages::end_of_value;
@@ -147,7 +151,7 @@ template <class T>
 class unexpected_value : public wide_message_error {
 public:
     explicit unexpected_value(char value) : value_(value) {}
-    void format(wchar* buffer, std::size_t size) const override
+    void format(wchar* buffer, std::size_t size) const noexcept override
     {
         message_writer(buffer, size) << messages::encountered_a
                                      << token_name<T> << messages::with_an_unexpected_value_of

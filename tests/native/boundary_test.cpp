@@ -1,38 +1,72 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 
 #include "core/boundary.h"
 #include "core/com_ptr.h"
 #include "core/errors.h"
-#include "tests/native/test_text.h"
+#include "core/platform.h"
 
 namespace {
 
+// Error types made from the module's own, as a later one would be: each keeps
+// the result of the error it is made from.
+class derived_com_error : public com::error {
+public:
+    using com::error::error;
+};
+
 class derived_not_expected : public not_expected {};
 
-TEST(Boundary, MapsByExactType)
+// 300 units, none of them ASCII, surrogate pairs among them: longer than the
+// 259 units an error object takes, and twice as long again as UTF-8.
+wstring wide_message()
 {
-    const com_ptr<com::error_info> carried(platform::create_error_info(WSTR("from the stream")));
+    wstring text;
+    while (text.size() < 300)
+        text += WSTR("\u00E9\U0001F600");
+    return text;
+}
+
+com_ptr<com::error_info> error_object(wstring_view description)
+{
+    return com_ptr<com::error_info>(platform::create_error_info(description));
+}
+
+TEST(Boundary, ResultAndErrorObjectFollowTheErrorsType)
+{
+    const com_ptr<com::error_info> carried = error_object(WSTR("from the stream"));
+    const com_ptr<com::error_info> stale = error_object(WSTR("left by an earlier call"));
+    const wstring long_text = wide_message();
     struct test_case {
         const char* name;
         std::function<void()> raise;
         HRESULT result;
-        const char* description;   // null: no error object
+        std::optional<wstring> description;   // none: no error object
     };
     const test_case cases[] = {
-        {"com::error", [&] { throw com::error(static_cast<HRESULT>(0x80030201), carried.get()); },
-         static_cast<HRESULT>(0x80030201), "from the stream"},
-        {"not_expected", [] { throw not_expected(); }, E_UNEXPECTED, nullptr},
-        {"io::overflow", [] { throw io::overflow(); }, DISP_E_EXCEPTION, "an overflow occured"},
-        {"io::underflow", [] { throw io::underflow(); }, DISP_E_EXCEPTION, "an underflow occured"},
-        {"wide_message_error", [] { throw io::expected_value<char>("."); }, DISP_E_EXCEPTION,
-         "Expected a char with a value of '.'."},
-        {"runtime_error", [] { throw std::runtime_error("bad alarm id"); }, DISP_E_EXCEPTION, "bad alarm id"},
-        {"plain exception", [] { throw std::exception(); }, DISP_E_EXCEPTION, "std::exception"},
-        {"derived from not_expected", [] { throw derived_not_expected(); }, DISP_E_EXCEPTION, "Catastrophic failure"},
+        {"com::error", [&] { throw com::error(STG_E_INCOMPLETE, carried.get()); }, STG_E_INCOMPLETE,
+         WSTR("from the stream")},
+        {"derived from com::error", [&] { throw derived_com_error(STG_E_INCOMPLETE, carried.get()); }, STG_E_INCOMPLETE,
+         WSTR("from the stream")},
+        {"com::error without an error object", [] { throw com::error(E_OUTOFMEMORY); }, E_OUTOFMEMORY, std::nullopt},
+        {"not_expected", [] { throw not_expected(); }, E_UNEXPECTED, std::nullopt},
+        {"derived from not_expected", [] { throw derived_not_expected(); }, E_UNEXPECTED, std::nullopt},
+        {"io::overflow", [] { throw io::overflow(); }, DISP_E_EXCEPTION, WSTR("an overflow occured")},
+        {"io::underflow", [] { throw io::underflow(); }, DISP_E_EXCEPTION, WSTR("an underflow occured")},
+        {"wide message", [] { throw io::expected_value<char>("."); }, DISP_E_EXCEPTION,
+         WSTR("Expected a char with a value of '.'.")},
+        {"wide message beyond ASCII, unit for unit up to 259", [&] { throw generic_error(long_text); },
+         DISP_E_EXCEPTION, long_text.substr(0, 259)},
+        {"runtime_error", [] { throw std::runtime_error("bad alarm id"); }, DISP_E_EXCEPTION, WSTR("bad alarm id")},
+        {"runtime_error in UTF-8", [] { throw std::runtime_error("caf\xC3\xA9"); }, DISP_E_EXCEPTION,
+         WSTR("caf\u00E9")},
+        {"plain exception", [] { throw std::exception(); }, DISP_E_EXCEPTION, WSTR("std::exception")},
+        {"not an exception", [] { throw 42; }, E_UNEXPECTED, std::nullopt},
     };
     for (const test_case& c : cases) {
+        platform::set_error_info(stale.get());
         const HRESULT result = guarded([&] {
             c.raise();
             return S_OK;
@@ -41,23 +75,20 @@ TEST(Boundary, MapsByExactType)
         const com_ptr<com::error_info> info(platform::take_error_info());
         if (c.description) {
             ASSERT_TRUE(info) << c.name;
-            EXPECT_EQ(platform::error_info_description(info.get()), c.description) << c.name;
+            EXPECT_EQ(wstring(info->description()), *c.description) << c.name;
         } else {
-            EXPECT_FALSE(info) << c.name;
+            EXPECT_FALSE(info) << c.name << ": the stale error object must go too";
         }
     }
 }
 
-TEST(Boundary, AnythingElseIsUnexpectedWithoutAStaleErrorObject)
+TEST(Boundary, SuccessPassesThroughAndLeavesTheErrorObjectAlone)
 {
-    EXPECT_EQ(guarded([]() -> HRESULT { throw io::overflow(); }), DISP_E_EXCEPTION);   // leaves one behind
-    EXPECT_EQ(guarded([]() -> HRESULT { throw 42; }), E_UNEXPECTED);
-    EXPECT_EQ(platform::take_error_info(), nullptr);
-}
-
-TEST(Boundary, SuccessPassesThrough)
-{
+    const com_ptr<com::error_info> earlier = error_object(WSTR("earlier"));
+    platform::set_error_info(earlier.get());
     EXPECT_EQ(guarded([] { return S_FALSE; }), S_FALSE);
+    const com_ptr<com::error_info> left(platform::take_error_info());
+    EXPECT_EQ(left.get(), earlier.get());
 }
 
 }   // namespace

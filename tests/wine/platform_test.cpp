@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <string>
 
 #include "core/boundary.h"
 #include "core/errors.h"
@@ -67,6 +68,24 @@ TEST(Platform, DescriptionsAreUtf8)
 {
     EXPECT_EQ(guarded([]() -> HRESULT { throw std::runtime_error("caf\xC3\xA9"); }), DISP_E_EXCEPTION);
     EXPECT_EQ(platform::take_error_description(), "caf\xC3\xA9");
+}
+
+// A wide message reaches the host as its own units, cut to 259 of them, with
+// no narrow text on the way: none of these is ASCII and the surrogate pairs
+// stay whole.
+TEST(Platform, WideMessagesReachTheHostUnitForUnit)
+{
+    std::wstring text;
+    while (text.size() < 300)
+        text += L"\u00E9\U0001F600";
+    EXPECT_EQ(guarded([&]() -> HRESULT { throw generic_error(text); }), DISP_E_EXCEPTION);
+    IErrorInfo* info = nullptr;
+    ASSERT_EQ(GetErrorInfo(0, &info), S_OK);
+    BSTR description = nullptr;
+    EXPECT_EQ(info->GetDescription(&description), S_OK);
+    info->Release();
+    EXPECT_EQ(std::wstring(description, SysStringLen(description)), text.substr(0, 259));
+    SysFreeString(description);
 }
 
 }   // namespace
