@@ -114,12 +114,6 @@ decimal_value decimal_value::divided_by_ten_to(unsigned exponent) const
     return from(signed_as(mantissa() < 0, m.value), p + exponent);
 }
 
-std::uint64_t decimal_value::whole_magnitude() const noexcept
-{
-    // No mantissa reaches 10^19.
-    return places() < tens::power.size() ? magnitude() / tens::power[places()] : 0;
-}
-
 decimal_value::text decimal_value::digits() const noexcept
 {
     // Built from the right: the significant fractional digits, the point,

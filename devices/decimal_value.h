@@ -64,8 +64,14 @@ public:
     // the places run out.
     decimal_value divided_by_ten_to(unsigned exponent) const;
 
-    // The integer part of the magnitude: 1234 for -1234.56.
-    std::uint64_t whole_magnitude() const noexcept;
+    // The count of digits in the integer part of the magnitude: 4 for
+    // -1234.56, 0 below one. A value reaches 10^e exactly when it has more
+    // than e of them.
+    constexpr unsigned whole_digits() const noexcept
+    {
+        const unsigned width = tens::decimal_width(magnitude());
+        return width > places() ? width - places() : 0;
+    }
 
     // The digits as a person writes them: "-" when negative, the integer part
     // (at least "0"), then "." and the fractional digits when any of them is
