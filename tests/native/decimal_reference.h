@@ -109,32 +109,16 @@ inline std::string digits(decimal v)
 inline std::vector<std::int64_t> mantissas()
 {
     constexpr std::int64_t limit = decimal_value::scale_limit;
-    std::vector<std::int64_t> magnitudes = {0,
-                                            1,
-                                            2,
-                                            3,
-                                            7,
-                                            9,
-                                            1024,
-                                            1500,
-                                            2048,
-                                            999999,
-                                            70000000,
-                                            4294967295,
-                                            limit,
-                                            limit - 1,
-                                            limit + 1,
-                                            limit * 10,
-                                            limit / 10,
-                                            limit * 10 - 1,
-                                            decimal_value::mantissa_max,
-                                            decimal_value::mantissa_max - 1};
+    constexpr std::int64_t max = decimal_value::mantissa_max;
+    std::vector<std::int64_t> magnitudes = {0, 1, 2, 3, 7, 9, 1024, 1500, 2048, 999999, 70000000, 4294967295};
+    magnitudes.insert(magnitudes.end(), {limit - 1, limit, limit + 1, limit / 10, limit * 10 - 1, limit * 10});
+    magnitudes.insert(magnitudes.end(), {max - 1, max});
     for (unsigned k = 0; k <= 17; ++k) {
         const auto power = static_cast<std::int64_t>(ten_to(k));
         for (const std::int64_t m : {power, power - 1, power + 1, 3 * power, 25 * power})
             magnitudes.push_back(m);
     }
-    for (std::int64_t five = 5; five <= decimal_value::mantissa_max; five *= 5)
+    for (std::int64_t five = 5; five <= max; five *= 5)
         magnitudes.push_back(five);
     for (unsigned k = 1; k < decimal_value::mantissa_bits - 1; ++k)
         magnitudes.push_back(std::int64_t(1) << k);
@@ -143,12 +127,12 @@ inline std::vector<std::int64_t> mantissas()
     for (unsigned i = 0; i < 64; ++i) {
         state = state * 6364136223846793005 + 1442695040888963407;
         const std::uint64_t zeros = ten_to(i % 13);
-        const std::uint64_t m = (state >> 7) % (std::uint64_t(decimal_value::mantissa_max) / zeros) * zeros;
+        const std::uint64_t m = (state >> 7) % (std::uint64_t(max) / zeros) * zeros;
         magnitudes.push_back(static_cast<std::int64_t>(m));
     }
     std::vector<std::int64_t> all;
     for (const std::int64_t m : magnitudes)
-        if (m <= decimal_value::mantissa_max) {
+        if (m <= max) {
             all.push_back(m);
             all.push_back(-m);
         }
@@ -156,42 +140,15 @@ inline std::vector<std::int64_t> mantissas()
     return all;
 }
 
-// Every power of ten a 64-bit word holds, the halves and fifths of some,
-// divisors that leave a remainder, and the largest words.
+// Every power of ten a 64-bit word holds and twice and three times most of
+// them, powers of two and of five, divisors that leave a remainder, and the
+// largest words.
 inline std::vector<std::uint64_t> divisors()
 {
-    std::vector<std::uint64_t> all = {0,
-                                      2,
-                                      3,
-                                      4,
-                                      5,
-                                      6,
-                                      7,
-                                      8,
-                                      9,
-                                      11,
-                                      12,
-                                      15,
-                                      16,
-                                      25,
-                                      40,
-                                      48,
-                                      64,
-                                      75,
-                                      125,
-                                      625,
-                                      1024,
-                                      2048,
-                                      3125,
-                                      4096,
-                                      6250,
-                                      9765625,
-                                      1ull << 40,
-                                      1ull << 63,
-                                      7450580596923828125ull,
-                                      3ull * 1024 * 1000,
-                                      UINT64_MAX,
-                                      UINT64_MAX - 1};
+    std::vector<std::uint64_t> all = {0,  2,  3,  4,  5,  6,  7,   8,   9,    11,   12,   15,
+                                      16, 25, 40, 48, 64, 75, 125, 625, 1024, 2048, 3125, 4096};
+    all.insert(all.end(), {6250, 9765625, 3ull * 1024 * 1000, 1ull << 40, 1ull << 63});
+    all.insert(all.end(), {7450580596923828125ull, UINT64_MAX - 1, UINT64_MAX});   // 5^27 and the top
     for (unsigned k = 0; k <= 19; ++k)
         all.push_back(ten_to(k));
     for (unsigned k = 0; k <= 17; ++k) {
