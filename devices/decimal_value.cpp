@@ -1,7 +1,13 @@
 #include "devices/decimal_value.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <climits>
+
 #include "core/digits.h"
 #include "core/errors.h"
+#include "core/powers_of_ten.h"
 
 namespace {
 
@@ -10,16 +16,61 @@ namespace {
     throw generic_error(messages::decimal_overflow);
 }
 
-std::uint64_t magnitude_of(std::int64_t mantissa) noexcept
-{
-    return mantissa < 0 ? std::uint64_t(0) - static_cast<std::uint64_t>(mantissa)
-                        : static_cast<std::uint64_t>(mantissa);
-}
-
 std::int64_t signed_as(bool negative, std::uint64_t magnitude) noexcept
 {
     const auto m = static_cast<std::int64_t>(magnitude);   // magnitudes here stay within 58 bits
     return negative ? -m : m;
+}
+
+// A mantissa times 10^j stays below the scale limit exactly when it is below
+// the limit divided by 10^j and rounded up; 10^17 is beyond the limit.
+constexpr std::array<std::uint64_t, 18> below_scale_limit = [] {
+    std::array<std::uint64_t, 18> thresholds{};
+    for (std::size_t j = 0; j < thresholds.size(); ++j)
+        thresholds[j] = (decimal_value::scale_limit + tens::power[j] - 1) / tens::power[j];
+    return thresholds;
+}();
+static_assert(below_scale_limit.back() == 1);
+
+// The places a mantissa of magnitude `m` can be raised by, one factor of ten
+// at a time, while it is below the scale limit.
+unsigned raises_below_scale_limit(std::uint64_t m) noexcept
+{
+    const auto first_reached =
+        std::ranges::partition_point(below_scale_limit, [m](std::uint64_t threshold) { return m < threshold; });
+    return static_cast<unsigned>(first_reached - below_scale_limit.begin());
+}
+
+// The places a magnitude `m` must be raised by before `divisor` (no multiple
+// of ten) divides it; more than any mantissa takes when no count does.
+unsigned places_to_divide(std::uint64_t m, std::uint64_t divisor) noexcept
+{
+    constexpr unsigned never = UINT_MAX;
+    if (m == 0)
+        return 0;
+    // The divisor is 2^twos 5^fives rest, with rest prime to ten: m 10^k is
+    // a multiple of it when rest divides m and k makes up the twos and the
+    // fives m lacks.
+    const auto twos = static_cast<unsigned>(std::countr_zero(divisor));
+    const tens::reduced rest = tens::without_fives(divisor >> twos, tens::every);
+    const unsigned fives = rest.count;
+    if (m % rest.value != 0)
+        return never;
+    const unsigned twos_in_m = std::min(twos, static_cast<unsigned>(std::countr_zero(m)));
+    const unsigned fives_in_m = tens::without_fives(m, fives).count;
+    return std::max(twos - twos_in_m, fives - fives_in_m);
+}
+
+// The quotient by what is left of a divisor once its factors of ten are
+// gone: the mantissa raised until the divisor divides it, as far as the
+// scale limit and the places allow, then divided, cut toward zero.
+decimal_value cut_quotient(decimal_value value, std::uint64_t divisor)
+{
+    const std::uint64_t m = value.magnitude();
+    const unsigned raised = std::min(
+        {places_to_divide(m, divisor), decimal_value::max_places - value.places(), raises_below_scale_limit(m)});
+    return decimal_value::from(signed_as(value.mantissa() < 0, m * tens::power[raised] / divisor),
+                               value.places() + raised);
 }
 
 }   // namespace
@@ -45,54 +96,47 @@ decimal_value decimal_value::divided_by(std::uint64_t divisor) const
 {
     if (divisor == 0)
         overflow();
-    std::int64_t m = mantissa();
-    unsigned p = places();
-    // Trailing zeros carry no digits; dropping them first leaves the most
-    // room for the places the divisor adds.
-    while (p > 0 && m % 10 == 0) {
-        m /= 10;
-        --p;
-    }
-    while (divisor % 10 == 0) {
-        divisor /= 10;
-        if (++p > max_places)
-            overflow();
-    }
-    while (magnitude_of(m) % divisor != 0 && m > -scale_limit && m < scale_limit && p < max_places) {
-        m *= 10;
-        ++p;
-    }
-    return from(signed_as(m < 0, magnitude_of(m) / divisor), p);
+    const tens::reduced rest = tens::without_zeros(divisor, tens::every);
+    const decimal_value moved = divided_by_ten_to(rest.count);
+    return rest.value == 1 ? moved : cut_quotient(moved, rest.value);
 }
 
-std::uint64_t decimal_value::whole_magnitude() const noexcept
+decimal_value decimal_value::divided_by_ten_to(unsigned exponent) const
 {
-    std::uint64_t whole = magnitude_of(mantissa());
-    for (unsigned p = places(); p > 0 && whole != 0; --p)
-        whole /= 10;
-    return whole;
+    // Trailing zeros carry no digits; dropping them first leaves the most
+    // room for the places the divisor adds.
+    const tens::reduced m = tens::without_zeros(magnitude(), places());
+    const unsigned p = places() - m.count;
+    if (exponent > max_places - p)
+        overflow();
+    if (m.count == 0)   // the mantissa stays; only the places grow
+        return decimal_value(bits_ + (std::uint64_t(exponent) << mantissa_bits));
+    return from(signed_as(mantissa() < 0, m.value), p + exponent);
 }
 
 decimal_value::text decimal_value::digits() const noexcept
 {
     // Built from the right: the significant fractional digits, the point,
-    // the integer part, the sign.
+    // the integer part, the sign. One division splits the digits at the
+    // point; past the table's last power (10^19) a mantissa, below 10^18, is
+    // all fraction.
     text t;
     wchar* const end = t.units + text::capacity;
+    const std::uint64_t m = magnitude();
+    const bool split = places() < tens::power.size();
+    const std::uint64_t whole = split ? m / tens::power[places()] : 0;
+    const std::uint64_t part = split ? m % tens::power[places()] : m;
     wchar* p = end;
-    std::uint64_t m = magnitude_of(mantissa());
-    unsigned fraction = places();
-    while (fraction > 0 && m % 10 == 0) {
-        m /= 10;
-        --fraction;
+    if (part != 0) {
+        // The fraction's own trailing zeros are the mantissa's.
+        const tens::reduced fraction = tens::without_zeros(part, places());
+        wchar* const point = end - (places() - fraction.count);
+        // Zeros between the point and the fraction's first digit.
+        std::fill(point, digits::decimal_before(end, fraction.value), wchar('0'));
+        p = point - 1;
+        *p = '.';
     }
-    for (unsigned i = 0; i < fraction; ++i) {
-        *--p = static_cast<wchar>('0' + m % 10);
-        m /= 10;
-    }
-    if (fraction > 0)
-        *--p = '.';
-    p = digits::decimal_before(p, m);
+    p = digits::decimal_before(p, whole);
     if (mantissa() < 0)
         *--p = '-';
     t.first = static_cast<std::size_t>(p - t.units);

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "core/output_stream.h"
+#include "core/powers_of_ten.h"
 
 class decimal_value {
 public:
@@ -37,6 +38,12 @@ public:
         return static_cast<std::int64_t>(bits_ << (64 - mantissa_bits)) >> (64 - mantissa_bits);
     }
     constexpr unsigned places() const noexcept { return static_cast<unsigned>(bits_ >> mantissa_bits); }
+    // The mantissa without its sign: 123456 for -1234.56.
+    constexpr std::uint64_t magnitude() const noexcept
+    {
+        const std::int64_t m = mantissa();
+        return m < 0 ? std::uint64_t(0) - static_cast<std::uint64_t>(m) : static_cast<std::uint64_t>(m);
+    }
 
     // The same value with one more decimal place (the mantissa times ten);
     // "decimal overflow" once the mantissa has reached the scale limit.
@@ -45,15 +52,26 @@ public:
     // The quotient, with no digit lost where the mantissa can hold them all.
     //
     // Factors of ten in the divisor only move the decimal point. What is left
-    // of the divisor (nothing, for every unit table) is divided into the
-    // mantissa after raising it, place by place, while it is not yet a
-    // multiple and still below the scale limit; a quotient that does not
+    // of the divisor (nothing, for a power of ten) is divided into the
+    // mantissa after raising it by as many places as make it a multiple, as
+    // far as the scale limit and the places allow; a quotient that does not
     // terminate within the mantissa is cut toward zero at its last digit.
     // "decimal overflow" for a zero divisor or when the places run out.
     decimal_value divided_by(std::uint64_t divisor) const;
 
-    // The integer part of the magnitude: 1234 for -1234.56.
-    std::uint64_t whole_magnitude() const noexcept;
+    // The quotient by 10^exponent, as divided_by gives it: trailing zeros of
+    // the mantissa are dropped and the point moves; "decimal overflow" when
+    // the places run out.
+    decimal_value divided_by_ten_to(unsigned exponent) const;
+
+    // The count of digits in the integer part of the magnitude: 4 for
+    // -1234.56, 0 below one. A value reaches 10^e exactly when it has more
+    // than e of them.
+    constexpr unsigned whole_digits() const noexcept
+    {
+        const unsigned width = tens::decimal_width(magnitude());
+        return width > places() ? width - places() : 0;
+    }
 
     // The digits as a person writes them: "-" when negative, the integer part
     // (at least "0"), then "." and the fractional digits when any of them is

@@ -19,8 +19,8 @@ struct scaled_value {
     std::span<const UnitEntry> units;
 };
 
-// The value converted into its unit row, digits kept as decimal_value::divided_by
-// keeps them.
+// The value converted into its unit row: the decimal point moved by the unit's
+// power of ten (decimal_value::divided_by_ten_to).
 struct unit_amount {
     decimal_value amount;
     const UnitEntry& unit;

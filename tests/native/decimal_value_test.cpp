@@ -2,10 +2,12 @@
 // and the division that keeps every digit.
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <functional>
 #include <string>
 
 #include "devices/decimal_value.h"
+#include "tests/native/decimal_reference.h"
 #include "tests/native/test_text.h"
 
 namespace {
@@ -142,6 +144,41 @@ TEST(DecimalValue, DivisionKeepsEveryDigitTheMantissaCanHold)
     for (const row& r : rows)
         EXPECT_EQ(text_of(decimal_value::from(r.mantissa, r.places).divided_by(r.divisor)), r.text)
             << r.mantissa << "/" << r.places << " by " << r.divisor;
+}
+
+// The quotient, or the overflow, exactly as working place by place gives it.
+TEST(DecimalValue, DivisionAgreesWithThePlaceByPlaceReference)
+{
+    const unsigned places[] = {0, 1, 2, 3, 4, 6, 9, 12, 17, 18, 19, 20, 31, 44, 45, 46, 51, 52, 55, 60, 61, 62, 63};
+    const std::vector<std::uint64_t> divisors = reference::divisors();
+    for (const std::int64_t m : reference::mantissas())
+        for (const unsigned p : places)
+            for (const std::uint64_t divisor : divisors)
+                ASSERT_EQ(reference::outcome([&] { return decimal_value::from(m, p).divided_by(divisor); }),
+                          reference::shown(reference::divided_by({m, p}, divisor)))
+                    << m << "e-" << p << " by " << divisor;
+}
+
+TEST(DecimalValue, MovingThePointIsDividingByThePowerOfTen)
+{
+    for (const std::int64_t m : reference::mantissas())
+        for (unsigned p = 0; p <= decimal_value::max_places; ++p)
+            for (unsigned e = 0; e <= 19; ++e)
+                ASSERT_EQ(reference::outcome([&] { return decimal_value::from(m, p).divided_by_ten_to(e); }),
+                          reference::shown(reference::divided_by({m, p}, reference::ten_to(e))))
+                    << m << "e-" << p << " by 10^" << e;
+    EXPECT_EQ(overflow_text([] { decimal_value::from(1).divided_by_ten_to(UINT_MAX); }), "decimal overflow");
+}
+
+TEST(DecimalValue, DigitsAndMagnitudeAgreeWithThePlaceByPlaceReference)
+{
+    for (const std::int64_t m : reference::mantissas())
+        for (unsigned p = 0; p <= decimal_value::max_places; ++p) {
+            const decimal_value v = decimal_value::from(m, p);
+            ASSERT_EQ(text_of(v), reference::digits({m, p})) << m << "e-" << p;
+            const std::uint64_t whole = reference::whole_magnitude({m, p});
+            ASSERT_EQ(v.whole_digits(), whole == 0 ? 0 : std::to_string(whole).size()) << m << "e-" << p;
+        }
 }
 
 TEST(DecimalValue, WhatDoesNotFitTheWordIsRefused)
