@@ -32,7 +32,7 @@ std::string outcome(F f)
     try {
         const decimal_value v = f();
         return shown(decimal{v.mantissa(), v.places()});
-    } catch (const generic_error_t<wchar_t>& e) {
+    } catch (const generic_error& e) {
         return utf8(wstring_view(e.text()));
     }
 }
