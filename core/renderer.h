@@ -2,19 +2,20 @@
 // and the one place where a renderer's body meets them.
 //
 // A renderer body is a plain function of a payload cursor and one form of the
-// output buffer (core/event_output.h); `xml_renderer<Dialect, Body>` and
+// output (core/output_buffer.h, core/xml_writer.h); `xml_renderer<Dialect, Body>` and
 // `text_renderer<Body>` give it the exact calling convention and argument list
 // the host expects, refuse bad arguments, check the payload size where the
 // event demands one, and stop every exception at the boundary.
 // `room_needed<Body>` runs the same body over the counting form.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <type_traits>
 
 #include "core/boundary.h"
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 #include "core/payload_cursor.h"
 #include "core/win_types.h"
 
@@ -51,16 +52,7 @@ template <auto Body>
 using output_of = typename body_traits<decltype(Body)>::output;
 
 template <class Out>
-void prepare(Out& out) noexcept
-{
-    // Element fragments sit three columns in, inside the host's own document.
-    if constexpr (std::is_same_v<Out, ui::event::xml_output>)
-        out.indent_by(3);
-}
-
-template <class Out>
-inline constexpr bool is_xml_dialect =
-    std::is_same_v<Out, ui::event::verbatim_xml_output> || std::is_same_v<Out, ui::event::xml_output>;
+inline constexpr bool is_xml_dialect = std::is_same_v<Out, output::verbatim_xml> || std::is_same_v<Out, output::xml>;
 
 // What every entry point does around its body: refuses missing arguments
 // and a payload that breaks the size rule, then runs `write` on a cursor over
@@ -82,8 +74,8 @@ HRESULT checked_run(bool arguments_present, std::uint32_t payloadBytes, const st
 
 }   // namespace detail
 
-// An XML renderer whose body writes `Dialect`: ui::event::verbatim_xml_output
-// or ui::event::xml_output. The table names the dialect, the body's parameter
+// An XML renderer whose body writes `Dialect`: output::verbatim_xml
+// or output::xml. The table names the dialect, the body's parameter
 // must agree.
 template <class Dialect, auto Body, class Size = any_size>
 HRESULT KORPS_STDCALL xml_renderer(void*, std::uint32_t payloadBytes, const std::uint8_t* payload, wchar* buffer,
@@ -93,7 +85,6 @@ HRESULT KORPS_STDCALL xml_renderer(void*, std::uint32_t payloadBytes, const std:
     static_assert(std::is_same_v<detail::output_of<Body>, Dialect>, "the body writes another dialect");
     return detail::checked_run<Size>(buffer != nullptr, payloadBytes, payload, [&](payload_cursor& in) {
         Dialect out(buffer, capacity);
-        detail::prepare(out);
         Body(in, out);
     });
 }
@@ -102,9 +93,9 @@ template <auto Body, class Size = any_size>
 HRESULT KORPS_STDCALL text_renderer(void*, std::uint32_t payloadBytes, const std::uint8_t* payload, wchar* buffer,
                                     std::uint32_t capacity, std::uint32_t* colour) noexcept
 {
-    static_assert(std::is_same_v<detail::output_of<Body>, ui::event::text_output>, "a text body writes text");
+    static_assert(std::is_same_v<detail::output_of<Body>, output::text>, "a text body writes text");
     return detail::checked_run<Size>(buffer && colour, payloadBytes, payload, [&](payload_cursor& in) {
-        ui::event::text_output out(buffer, capacity);
+        output::text out(buffer, capacity);
         *colour = Body(in, out);
     });
 }
@@ -119,8 +110,8 @@ template <auto Body, class Size = any_size>
 HRESULT room_needed(std::uint32_t payloadBytes, const std::uint8_t* payload, std::size_t* units) noexcept
 {
     return detail::checked_run<Size>(units != nullptr, payloadBytes, payload, [&](payload_cursor& in) {
-        detail::output_of<Body> out(io::text::counting);
-        detail::prepare(out);
+        std::array<wchar, output::counting_scratch> scratch;
+        detail::output_of<Body> out(output::counting, scratch);
         Body(in, out);
         *units = out.size() + 1;
     });

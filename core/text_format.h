@@ -1,5 +1,5 @@
 // Number shapes shared by every renderer: decimal integers, hexadecimal
-// bytes and dotted IPv4 addresses, each written as one piece of UTF-16
+// bytes and dotted IPv4 addresses, each made as one short text of UTF-16
 // digits without allocating.
 #pragma once
 
@@ -8,7 +8,7 @@
 #include <type_traits>
 
 #include "core/digits.h"
-#include "core/output_stream.h"
+#include "core/short_text.h"
 
 // A signed or unsigned integer in decimal: no padding, "-" when negative,
 // "0" for zero.
@@ -42,38 +42,38 @@ struct dotted_ipv4 {
     std::uint32_t address;
 };
 
-template <text_sink Out>
-Out& operator<<(Out& out, decimal d)
+inline short_text<digits::max_decimal> text_of(decimal d) noexcept
 {
-    wchar units[digits::max_decimal];
-    wchar* const end = units + std::size(units);
-    wchar* p = digits::decimal_before(end, d.magnitude);
+    short_text<digits::max_decimal> text;
+    text.first =
+        static_cast<std::size_t>(digits::decimal_before(text.units + digits::max_decimal, d.magnitude) - text.units);
     if (d.negative)
-        *--p = '-';
-    out.write(p, static_cast<std::size_t>(end - p));
-    return out;
+        text.prepend(wchar('-'));
+    return text;
 }
 
-template <text_sink Out>
-Out& operator<<(Out& out, hex_byte h)
+inline short_text<2> text_of(hex_byte h) noexcept
 {
-    const wchar units[2] = {digits::hex[h.value >> 4], digits::hex[h.value & 0xF]};
-    out.write(units, 2);
-    return out;
+    return {{digits::hex[h.value >> 4], digits::hex[h.value & 0xF]}, 0};
 }
 
-template <text_sink Out>
-Out& operator<<(Out& out, dotted_ipv4 ip)
+inline short_text<15> text_of(dotted_ipv4 ip) noexcept
 {
-    // Built back to front, the four numbers and their dots as one piece.
-    wchar units[15];
-    wchar* const end = units + std::size(units);
-    wchar* p = end;
+    // Built back to front: four numbers of up to three digits and their dots.
+    short_text<15> text;
+    wchar* p = text.units + 15;
     for (int shift = 0; shift < 32; shift += 8) {
         if (shift)
             *--p = '.';
         p = digits::decimal_before(p, ip.address >> shift & 0xFF);
     }
-    out.write(p, static_cast<std::size_t>(end - p));
-    return out;
+    text.first = static_cast<std::size_t>(p - text.units);
+    return text;
+}
+
+template <text_sink Out, class Shape>
+requires std::is_same_v<Shape, decimal> || std::is_same_v<Shape, hex_byte> || std::is_same_v<Shape, dotted_ipv4> Out&
+operator<<(Out& out, Shape shape)
+{
+    return out << text_of(shape);
 }

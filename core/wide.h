@@ -2,7 +2,7 @@
 //
 // Windows keeps UTF-16 in wchar_t; elsewhere wchar_t is 32 bits wide, so the
 // native build uses char16_t. Everything that handles host-visible text uses
-// the `wchar` alias and writes its literals with WSTR("...").
+// the `wchar` alias and writes its literals as "..."_w (below).
 #pragma once
 
 #include <cstddef>
@@ -24,7 +24,7 @@ using wstring = std::basic_string<wchar>;
 using wstring_view = std::basic_string_view<wchar>;
 
 // The module's own literals, made UTF-16 when the module is compiled:
-// "Alarm"_w is a wstring_view of static UTF-16 units. Only ASCII is taken, so
+// "Alarm"_w is a view of static UTF-16 units. Only ASCII is taken, so
 // that no literal depends on the ANSI code page of the machine it runs on; a
 // literal with any other byte does not compile. The units are made, and
 // checked, when the literal's template argument is formed, which is always at
@@ -45,10 +45,35 @@ struct ascii {
     }
 };
 
+// A literal as the output sees it: its units, and whether a line feed ends
+// it or stands inside it, so that a writer that starts lines with a prefix
+// never scans a literal for line feeds.
+struct text : wstring_view {
+    bool endsLine = false;   // its last unit is a line feed
+    bool breaksInside = false;   // a line feed stands before its last unit
+};
+
+template <std::size_t N>
+consteval text describe(const ascii<N>& literal)
+{
+    text t{{literal.units, N - 1}};
+    for (std::size_t i = 0; i + 1 < N; ++i)
+        if (literal.units[i] == '\n') {
+            if (i + 2 == N)
+                t.endsLine = true;
+            else
+                t.breaksInside = true;
+        }
+    return t;
+}
+
+template <ascii Text>
+inline constexpr text described = describe(Text);
+
 }   // namespace wide_literal
 
 template <wide_literal::ascii Text>
-constexpr wstring_view operator""_w()
+constexpr wide_literal::text operator""_w()
 {
-    return {Text.units, std::size(Text.units) - 1};
+    return wide_literal::described<Text>;
 }

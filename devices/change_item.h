@@ -9,7 +9,7 @@
 
 #include <string_view>
 
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 
 // The two names of a parameter: the key is the XML `id`, the display name
 // what the text shows.
@@ -23,7 +23,7 @@ struct change_name {
 // keeps ", " off the front of its first item.
 class text_change_list {
 public:
-    explicit text_change_list(ui::event::text_output& out) noexcept : out_(out) {}
+    explicit text_change_list(output::text& out) noexcept : out_(out) {}
 
     template <class Value, class Format>
     void add(const change_name& name, bool has_old, const Value& old_value, bool has_new, const Value& new_value,
@@ -45,11 +45,10 @@ private:
     {
         if (!present)
             return;
-        out_ << before;
-        format(out_, value);
+        out_ << before << format.shown(value);
     }
 
-    ui::event::text_output& out_;
+    output::text& out_;
     bool first_ = true;
 };
 
@@ -58,7 +57,7 @@ private:
 // by the caller is closed before the first item.
 class xml_change_list {
 public:
-    explicit xml_change_list(ui::event::xml_output& out) noexcept : out_(out) {}
+    explicit xml_change_list(output::xml& out) noexcept : out_(out) {}
 
     template <class Value, class Format>
     void add(const change_name& name, bool has_old, const Value& old_value, bool has_new, const Value& new_value,
@@ -66,25 +65,21 @@ public:
     {
         if (!has_old && !has_new)
             return;
-        out_.open_element("parameter"_w);
-        out_.attribute("id"_w, name.key);
-        out_ << "\n"_w;
-        write_value(has_old, "old"_w, old_value, format);
-        write_value(has_new, "new"_w, new_value, format);
-        out_.close_element();
-        out_ << "\n"_w;
+        out_.open_line("parameter"_tag, "id"_w, name.key);
+        write_value(has_old, "old"_tag, old_value, format);
+        write_value(has_new, "new"_tag, new_value, format);
+        out_.close_line();
     }
 
 private:
     template <class Value, class Format>
-    void write_value(bool present, wstring_view element, const Value& value, const Format& format)
+    void write_value(bool present, const output::element_name& element, const Value& value, const Format& format)
     {
         if (!present)
             return;
         out_ << "\t"_w;
-        out_.element_with(
-            element, [&] { format(out_, value); }, "\n"_w);
+        out_.element_line(element, format.shown(value));
     }
 
-    ui::event::xml_output& out_;
+    output::xml& out_;
 };

@@ -8,7 +8,7 @@
 #include "core/platform.h"
 #include "core/text_format.h"
 #include "core/utf16le.h"
-#include "devices/change_elements.h"
+#include "core/xml_writer.h"
 #include "devices/routes.h"
 
 namespace change_sets {
@@ -20,7 +20,7 @@ struct task_memory_free {
 
 // A signed 16-bit count of UTF-16 units and the units. The text passes
 // through task memory of 2N+2 bytes, as the host's own readers take it.
-void write_wide_text(payload_cursor& in, ui::event::xml_output& out)
+void write_wide_text(payload_cursor& in, output::xml& out)
 {
     const auto count = static_cast<std::int16_t>(in.read_u16());
     if (count <= 0)
@@ -36,30 +36,43 @@ void write_wide_text(payload_cursor& in, ui::event::xml_output& out)
 }
 
 template <auto Read>
-void write_decimal(payload_cursor& in, ui::event::xml_output& out)
+auto read_decimal(payload_cursor& in)
 {
-    out << decimal(std::invoke(Read, in));
+    return text_of(decimal(std::invoke(Read, in)));
 }
 
-void write_ipv4(payload_cursor& in, ui::event::xml_output& out)
+auto read_ipv4(payload_cursor& in)
 {
-    out << dotted_ipv4{in.read_u32()};
+    return text_of(dotted_ipv4{in.read_u32()});
 }
 
 // --- What each body kind writes inside its `changed` element -----------------
 
-using body_writer = void (*)(payload_cursor&, ui::event::xml_output&);
+using body_writer = void (*)(payload_cursor&, output::xml&);
 
-// An old and a new value, each on its line.
-template <body_writer WriteValue>
-void old_and_new_values(payload_cursor& in, ui::event::xml_output& out)
+// An old and a new value, each on its line: a text that may be empty
+// (<old-value/>), or a number read just before it is written.
+void old_and_new_texts(payload_cursor& in, output::xml& out)
 {
-    old_and_new(out, [&] { WriteValue(in, out); });
+    for (const output::element_name* name : {&"old-value"_tag, &"new-value"_tag}) {
+        out.open_element(*name);
+        write_wide_text(in, out);
+        out.close_line();
+    }
+}
+
+template <auto Read>
+void old_and_new_values(payload_cursor& in, output::xml& out)
+{
+    for (const output::element_name* name : {&"old-value"_tag, &"new-value"_tag}) {
+        out.open_element(*name);
+        out.close_line_with(Read(in));
+    }
 }
 
 // The three lists of a route table, with no old and new value.
 template <const auto& Layout>
-void route_lists(payload_cursor& in, ui::event::xml_output& out)
+void route_lists(payload_cursor& in, output::xml& out)
 {
     routes::write_route_lists(in, out, Layout);
 }
@@ -71,11 +84,11 @@ struct body_row {
 
 // One row per kind, in the order of `body`.
 constexpr body_row bodies[] = {
-    {body::wide_text, old_and_new_values<write_wide_text>},
-    {body::byte, old_and_new_values<write_decimal<&payload_cursor::read_u8>>},
-    {body::unsigned32, old_and_new_values<write_decimal<&payload_cursor::read_u32>>},
-    {body::signed32, old_and_new_values<write_decimal<&payload_cursor::read_i32>>},
-    {body::ipv4, old_and_new_values<write_ipv4>},
+    {body::wide_text, old_and_new_texts},
+    {body::byte, old_and_new_values<read_decimal<&payload_cursor::read_u8>>},
+    {body::unsigned32, old_and_new_values<read_decimal<&payload_cursor::read_u32>>},
+    {body::signed32, old_and_new_values<read_decimal<&payload_cursor::read_i32>>},
+    {body::ipv4, old_and_new_values<read_ipv4>},
     {body::routes_a, route_lists<routes::layout_a>},
     {body::routes_b, route_lists<routes::layout_b>},
 };
@@ -83,16 +96,16 @@ constexpr body_row bodies[] = {
 static_assert(one_row_per_enumerator(bodies, &body_row::kind, body::routes_b),
               "each body kind has its row, at its own position");
 
-void write_section(payload_cursor& in, ui::event::xml_output& out, const section& s)
+void write_section(payload_cursor& in, output::xml& out, const section& s)
 {
-    open_line(out, "changed"_w, "field"_w, s.field);
+    out.open_line("changed"_tag, "field"_w, s.field);
     bodies[static_cast<std::size_t>(s.kind)].write(in, out);
-    close_line(out);
+    out.close_line();
 }
 
 }   // namespace
 
-void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set)
+void write(payload_cursor& in, output::xml& out, const change_set& set)
 {
     const std::uint64_t mask = set.maskBytes == 2 ? in.read_u16() : in.read_u8();
     for_each_set_bit(mask, set.sections, [&](const section& s, std::size_t) { write_section(in, out, s); });

@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 #include "core/payload_cursor.h"
 
 namespace change_sets {
@@ -35,6 +35,6 @@ struct change_set {
 
 // Reads the mask, then writes a `changed` element for every section whose bit
 // is set, in bit order. Bits past the last section read nothing.
-void write(payload_cursor& in, ui::event::xml_output& out, const change_set& set);
+void write(payload_cursor& in, output::xml& out, const change_set& set);
 
 }   // namespace change_sets

@@ -121,7 +121,7 @@ decimal_value::text decimal_value::digits() const noexcept
     // point; past the table's last power (10^19) a mantissa, below 10^18, is
     // all fraction.
     text t;
-    wchar* const end = t.units + text::capacity;
+    wchar* const end = t.units + max_digits;
     const std::uint64_t m = magnitude();
     const bool split = places() < tens::power.size();
     const std::uint64_t whole = split ? m / tens::power[places()] : 0;

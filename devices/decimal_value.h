@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/output_stream.h"
+#include "core/short_text.h"
 #include "core/powers_of_ten.h"
 
 class decimal_value {
@@ -76,12 +76,8 @@ public:
     // The digits as a person writes them: "-" when negative, the integer part
     // (at least "0"), then "." and the fractional digits when any of them is
     // not zero; trailing zeros are dropped, so 1.500 reads "1.5" and 2.000 "2".
-    struct text {
-        static constexpr std::size_t capacity = 2 + max_places + 20;   // sign, "0.", places, digits
-        wchar units[capacity];
-        std::size_t first;   // the digits are units[first] to the end
-        wstring_view view() const noexcept { return {units + first, capacity - first}; }
-    };
+    static constexpr std::size_t max_digits = 2 + max_places + 20;   // sign, "0.", places, digits
+    using text = short_text<max_digits>;
     text digits() const noexcept;
 
 private:
@@ -90,8 +86,13 @@ private:
     std::uint64_t bits_ = 0;
 };
 
+inline decimal_value::text text_of(decimal_value value) noexcept
+{
+    return value.digits();
+}
+
 template <text_sink Out>
 Out& operator<<(Out& out, decimal_value value)
 {
-    return out << value.digits().view();
+    return out << value.digits();
 }

@@ -2,7 +2,7 @@
 // field that either copy marks present, in record order.
 #pragma once
 
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 #include "core/payload_cursor.h"
 #include "devices/change_item.h"
 #include "devices/family_a_fields.h"

@@ -2,25 +2,24 @@
 
 #include "core/mask_walk.h"
 #include "core/text_format.h"
-#include "devices/change_elements.h"
+#include "core/xml_writer.h"
 
 namespace routes {
 namespace {
-
-using change_sets::close_line;
-using change_sets::open_line;
-using change_sets::value_line;
 
 constexpr std::size_t address_bytes = 4;
 constexpr std::size_t enumeration_bytes = 1;
 constexpr std::size_t key_and_mask_bytes = 2 * address_bytes + 2;
 
-void write_value(payload_cursor& in, ui::event::xml_output& out, const field& f)
+// Hands a field's value to `write`: an address, or a code through the
+// field's table.
+template <class Write>
+void with_value(payload_cursor& in, const field& f, Write&& write)
 {
     if (f.table.empty())
-        out << dotted_ipv4{in.read_u32()};
+        write(text_of(dotted_ipv4{in.read_u32()}));
     else
-        out << lookup_option(f.table, in.read_u8());
+        write(lookup_option(f.table, in.read_u8()));
 }
 
 std::size_t whole_entry_bytes(std::span<const field> layout) noexcept
@@ -42,42 +41,49 @@ std::size_t read_count(payload_cursor& in, std::size_t smallest_entry)
 }
 
 // A removed or added route: every field of the layout.
-void write_whole_entries(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout,
-                         wstring_view element)
+void write_whole_entries(payload_cursor& in, output::xml& out, std::span<const field> layout,
+                         const output::element_name& element)
 {
     const std::size_t count = read_count(in, whole_entry_bytes(layout));
     for (std::size_t i = 0; i < count; ++i) {
-        open_line(out, element);
-        for (const field& f : layout)
-            value_line(out, "field"_w, "name"_w, f.name, [&] { write_value(in, out, f); });
-        close_line(out);
+        out.open_line(element);
+        for (const field& f : layout) {
+            out.open_element("field"_tag, "name"_w, f.name);
+            with_value(in, f, [&](const auto& value) { out.close_line_with(value); });
+        }
+        out.close_line();
     }
 }
 
 // A modified route: its key, then the fields its mask names, old and new.
-void write_modified_entries(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout)
+void write_modified_entries(payload_cursor& in, output::xml& out, std::span<const field> layout)
 {
     const std::size_t count = read_count(in, key_and_mask_bytes);
     for (std::size_t i = 0; i < count; ++i) {
-        open_line(out, "modified-element"_w);
-        value_line(out, "key"_w, "field"_w, "Network"_w, [&] { out << dotted_ipv4{in.read_u32()}; });
-        value_line(out, "key"_w, "field"_w, "Mask"_w, [&] { out << dotted_ipv4{in.read_u32()}; });
+        out.open_line("modified-element"_tag);
+        for (const wstring_view key : {"Network"_w, "Mask"_w}) {
+            out.open_element("key"_tag, "field"_w, key);
+            out.close_line_with(dotted_ipv4{in.read_u32()});
+        }
         for_each_set_bit(in.read_u16(), layout, [&](const field& f, std::size_t) {
-            open_line(out, "changed"_w, "field"_w, f.name);
-            change_sets::old_and_new(out, [&] { write_value(in, out, f); });
-            close_line(out);
+            out.open_line("changed"_tag, "field"_w, f.name);
+            for (const output::element_name* name : {&"old-value"_tag, &"new-value"_tag}) {
+                out.open_element(*name);
+                with_value(in, f, [&](const auto& value) { out.close_line_with(value); });
+            }
+            out.close_line();
         });
-        close_line(out);
+        out.close_line();
     }
 }
 
 }   // namespace
 
-void write_route_lists(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout)
+void write_route_lists(payload_cursor& in, output::xml& out, std::span<const field> layout)
 {
-    write_whole_entries(in, out, layout, "removed-element"_w);
+    write_whole_entries(in, out, layout, "removed-element"_tag);
     write_modified_entries(in, out, layout);
-    write_whole_entries(in, out, layout, "added-element"_w);
+    write_whole_entries(in, out, layout, "added-element"_tag);
 }
 
 }   // namespace routes

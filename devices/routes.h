@@ -12,7 +12,7 @@
 #include <span>
 #include <string_view>
 
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 #include "core/payload_cursor.h"
 #include "core/option_entry.h"
 
@@ -55,6 +55,6 @@ inline constexpr field layout_b[] = {
 static_assert(std::size(layout_b) <= 16, "a modified route's field mask has 16 bits");
 
 // Writes the three lists of a route table of the given layout.
-void write_route_lists(payload_cursor& in, ui::event::xml_output& out, std::span<const field> layout);
+void write_route_lists(payload_cursor& in, output::xml& out, std::span<const field> layout);
 
 }   // namespace routes

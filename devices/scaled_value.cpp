@@ -20,3 +20,14 @@ unit_amount in_unit(const scaled_value& scaled)
     const UnitEntry& unit = unit_row(scaled.units, scaled.value);
     return {scaled.value.divided_by_ten_to(unit.exponent), unit};
 }
+
+scaled_text text_of(const scaled_value& scaled) noexcept
+{
+    const unit_amount converted = in_unit(scaled);
+    const decimal_value::text number = converted.amount.digits();
+    scaled_text text;
+    text.prepend(wstring_view(converted.unit.wide));
+    text.prepend(wchar(' '));
+    text.prepend(number.view());
+    return text;
+}

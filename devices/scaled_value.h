@@ -29,9 +29,11 @@ struct unit_amount {
 unit_amount in_unit(const scaled_value& scaled);
 
 // The number, one blank, the unit: "70 MHz", "-12.5 dBm", "0 Hz".
+using scaled_text = short_text<decimal_value::max_digits + 1 + max_unit_length>;
+scaled_text text_of(const scaled_value& scaled) noexcept;
+
 template <text_sink Out>
 Out& operator<<(Out& out, const scaled_value& scaled)
 {
-    const unit_amount converted = in_unit(scaled);
-    return out << converted.amount << " "_w << converted.unit.wide;
+    return out << text_of(scaled);
 }

@@ -13,6 +13,7 @@ utc_time::text utc_time::digits() const noexcept
     const hh_mm_ss clock{instant - day};
 
     text t{};
+    t.first = 0;
     wchar* p = t.units;
     p = digits::fixed_width(p, static_cast<unsigned>(static_cast<int>(date.year())), 4);
     *p++ = '-';

@@ -6,20 +6,22 @@
 #include <cstdint>
 #include <iterator>
 
-#include "core/output_stream.h"
+#include "core/short_text.h"
 
 struct utc_time {
     std::uint32_t seconds;
 
-    struct text {
-        wchar units[19];
-        wstring_view view() const noexcept { return {units, std::size(units)}; }
-    };
+    using text = short_text<19>;
     text digits() const noexcept;
 };
 
 template <text_sink Out>
 Out& operator<<(Out& out, utc_time time)
 {
-    return out << time.digits().view();
+    return out << time.digits();
+}
+
+inline utc_time::text text_of(utc_time time) noexcept
+{
+    return time.digits();
 }

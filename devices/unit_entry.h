@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "core/powers_of_ten.h"
 #include "core/wide.h"
@@ -26,6 +27,18 @@ consteval unsigned exponent_of(std::uint64_t multiplier)
 }
 
 #define UNIT(text, multiplier) (UnitEntry{text, WSTR(text), exponent_of(multiplier)})
+
+// A unit's text is short: a scaled value is made on the stack with room for
+// this many units after its number.
+inline constexpr std::size_t max_unit_length = 8;
+
+consteval bool short_units(std::span<const UnitEntry> table)
+{
+    for (const UnitEntry& unit : table)
+        if (std::char_traits<char>::length(unit.narrow) > max_unit_length)
+            return false;
+    return true;
+}
 
 // Unit rows go from the base unit (multiplier 1) upward.
 consteval bool rising_from_one(std::span<const UnitEntry> table)

@@ -42,5 +42,7 @@ inline constexpr UnitEntry fixed_megahertz[] = {UNIT("MHz", 1)};
 static_assert(rising_from_one(frequency) && rising_from_one(data_rate) && rising_from_one(symbol_rate) &&
               rising_from_one(level) && rising_from_one(ratio) && rising_from_one(current) &&
               rising_from_one(fixed_megahertz));
+static_assert(short_units(frequency) && short_units(data_rate) && short_units(symbol_rate) && short_units(level) &&
+              short_units(ratio) && short_units(current) && short_units(fixed_megahertz));
 
 }   // namespace units

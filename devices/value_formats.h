@@ -1,5 +1,6 @@
-// How the value of one parameter-record field is written: one function
-// object per kind of value, called as format(out, value) by the change items.
+// How the value of one parameter-record field is shown: one function object
+// per kind of value, whose `shown(value)` the change items write (a short
+// text made on the stack, or a view of a table's or the payload's text).
 #pragma once
 
 #include <concepts>
@@ -20,19 +21,19 @@ namespace formats {
 struct option {
     std::span<const OptionEntry> table;
 
-    template <text_sink Out, std::integral Value>
-    void operator()(Out& out, Value value) const
+    template <std::integral Value>
+    wstring_view shown(Value value) const
     {
-        out << lookup_option(table, value);
+        return lookup_option(table, value);
     }
 };
 
 // Plain decimal digits, "-" when negative, "0" for zero.
 struct integer {
-    template <text_sink Out, std::integral Value>
-    void operator()(Out& out, Value value) const
+    template <std::integral Value>
+    auto shown(Value value) const noexcept
     {
-        out << decimal(value);
+        return text_of(decimal(value));
     }
 };
 
@@ -43,11 +44,7 @@ using mac_address = integer;
 // The unit's temperature: a signed byte of whole degrees Celsius, in decimal
 // without a unit ("-5" for 0xFB).
 struct temperature {
-    template <text_sink Out>
-    void operator()(Out& out, std::uint8_t value) const
-    {
-        out << decimal(static_cast<std::int8_t>(value));
-    }
+    auto shown(std::uint8_t value) const noexcept { return text_of(decimal(static_cast<std::int8_t>(value))); }
 };
 
 // A raw field of 32 bits at most, read as the scale says and shown in the
@@ -55,38 +52,24 @@ struct temperature {
 struct scaled {
     field_scale scale;
 
-    template <text_sink Out, std::integral Value>
-    requires(sizeof(Value) <= 4) void operator()(Out& out, Value raw) const
-    {
-        out << scaled_value{decimal_value::from(raw, scale.places), scale.units};
-    }
+    template <std::integral Value>
+    requires(sizeof(Value) <= 4) scaled_text shown(Value raw)
+    const { return text_of(scaled_value{decimal_value::from(raw, scale.places), scale.units}); }
 };
 
 // Seconds since 1970 in UTC: "2024-03-01 12:00:00".
 struct time_stamp {
-    template <text_sink Out>
-    void operator()(Out& out, std::uint32_t seconds) const
-    {
-        out << utc_time{seconds};
-    }
+    utc_time::text shown(std::uint32_t seconds) const noexcept { return text_of(utc_time{seconds}); }
 };
 
 // IPv4 addresses and masks, most significant byte first: "10.0.0.1".
 struct address {
-    template <text_sink Out>
-    void operator()(Out& out, std::uint32_t value) const
-    {
-        out << dotted_ipv4{value};
-    }
+    auto shown(std::uint32_t value) const noexcept { return text_of(dotted_ipv4{value}); }
 };
 
 // Text fields (model numbers, versions, circuit names) as they stand.
 struct text {
-    template <text_sink Out>
-    void operator()(Out& out, wstring_view value) const
-    {
-        out << value;
-    }
+    wstring_view shown(wstring_view value) const noexcept { return value; }
 };
 
 }   // namespace formats

@@ -56,7 +56,7 @@ void list_changed_alarms(const unit_alarm_record& record, const alarm_layout& la
 // The one-line form: "A alarmed, B alarm cleared, Device 2: C alarmed".
 class alarm_sentence {
 public:
-    explicit alarm_sentence(ui::event::text_output& out) noexcept : out_(out) {}
+    explicit alarm_sentence(output::text& out) noexcept : out_(out) {}
 
     void state_change(render::alarm_state from, render::alarm_state to)
     {
@@ -97,7 +97,7 @@ private:
             out_ << ", "_w;
     }
 
-    ui::event::text_output& out_;
+    output::text& out_;
     bool continued_ = false;
     unsigned alarms_ = 0;
 };
@@ -106,37 +106,26 @@ private:
 // their alarms.
 class alarm_elements {
 public:
-    explicit alarm_elements(ui::event::xml_output& out) noexcept : out_(out) {}
+    explicit alarm_elements(output::xml& out) noexcept : out_(out) {}
 
     void state_change(render::alarm_state from, render::alarm_state to)
     {
-        out_.open_element("alarm-state"_w);
-        out_ << "\n"_w;
-        write_element_line(out_, "old"_w, render::alarm_state_name(from));
-        write_element_line(out_, "new"_w, render::alarm_state_name(to));
-        out_.close_element();
-        out_ << "\n"_w;
+        out_.open_line("alarm-state"_tag);
+        out_.element_line("old"_tag, render::alarm_state_name(from));
+        out_.element_line("new"_tag, render::alarm_state_name(to));
+        out_.close_line();
     }
 
-    void alarm(wstring_view name, bool raised) { write_element_line(out_, raised ? "raised"_w : "cleared"_w, name); }
+    void alarm(wstring_view name, bool raised) { out_.element_line(raised ? "raised"_tag : "cleared"_tag, name); }
 
-    void open_device(std::uint32_t number)
-    {
-        out_.open_element("device"_w);
-        out_.attribute("address"_w, decimal(number));
-        out_ << "\n"_w;
-    }
+    void open_device(std::uint32_t number) { out_.open_line("device"_tag, "address"_w, decimal(number)); }
 
-    void close_device()
-    {
-        out_.close_element();
-        out_ << "\n"_w;
-    }
+    void close_device() { out_.close_line(); }
 
     bool covers(const alarm_layout& layout) const noexcept { return layout.inXml; }
 
 private:
-    ui::event::xml_output& out_;
+    output::xml& out_;
 };
 
 // The state change, if any, then the named bits that changed.
@@ -153,22 +142,22 @@ void describe_unit_alarms(payload_cursor& in, Listing& listing)
 
 }   // namespace
 
-void alarm_status_changed_xml(payload_cursor& in, ui::event::xml_output& out)
+void alarm_status_changed_xml(payload_cursor& in, output::xml& out)
 {
     const alarm_status_change change = read_alarm_status_change(in);
-    write_element_line(out, "Identifier"_w, change.alarm);
-    write_element_line(out, "OldState"_w, change.from.name);
-    write_element_line(out, "NewState"_w, change.to.name);
+    out.element_line("Identifier"_tag, change.alarm);
+    out.element_line("OldState"_tag, change.from.name);
+    out.element_line("NewState"_tag, change.to.name);
 }
 
-render::colour alarm_status_changed_text(payload_cursor& in, ui::event::text_output& out)
+render::colour alarm_status_changed_text(payload_cursor& in, output::text& out)
 {
     const alarm_status_change change = read_alarm_status_change(in);
     out << change.alarm << " changed from "_w << change.from.name << " to "_w << change.to.name;
     return change.to.colour;
 }
 
-void unit_status_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void unit_status_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     const std::int32_t from = in.read_i32();
     const std::int32_t to = in.read_i32();
@@ -177,7 +166,7 @@ void unit_status_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
         << "\t\t<new-status>"_w << decimal(to) << "</new-status>"_w;
 }
 
-render::colour unit_status_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_status_text(payload_cursor& in, output::text& out)
 {
     const unit_status from{in.read_i32()};
     const unit_status to{in.read_i32()};
@@ -185,13 +174,13 @@ render::colour unit_status_text(payload_cursor& in, ui::event::text_output& out)
     return colour_of(to);
 }
 
-void unit_alarm_state_changed_xml(payload_cursor& in, ui::event::xml_output& out)
+void unit_alarm_state_changed_xml(payload_cursor& in, output::xml& out)
 {
     alarm_elements listing(out);
     describe_unit_alarms(in, listing);
 }
 
-render::colour unit_alarm_state_changed_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_alarm_state_changed_text(payload_cursor& in, output::text& out)
 {
     alarm_sentence listing(out);
     describe_unit_alarms(in, listing);

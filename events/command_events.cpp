@@ -55,18 +55,18 @@ subnet read_subnet(payload_cursor& in)
 
 }   // namespace
 
-void unit_registration_xml(payload_cursor& in, ui::event::xml_output& out)
+void unit_registration_xml(payload_cursor& in, output::xml& out)
 {
     const wstring_view source = registration_source(in.read_u8());
-    write_element_line(out, "source"_w, source);
+    out.element_line("source"_tag, source);
     const auto result = read_command_result<&payload_cursor::read_string>(in);
     if (result.failed())
-        write_element_line(out, "result"_w, result.error);
+        out.element_line("result"_tag, result.error);
     else
-        write_element_line(out, "result"_w, "succeeded"_w);
+        out.element_line("result"_tag, "succeeded"_w);
 }
 
-render::colour unit_registration_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_registration_text(payload_cursor& in, output::text& out)
 {
     const wstring_view source = registration_source(in.read_u8());
     out << "A "_w << source << " generated registration "_w;
@@ -75,7 +75,7 @@ render::colour unit_registration_text(payload_cursor& in, ui::event::text_output
     return result.failed() ? render::colours::red : render::colours::green;
 }
 
-render::colour multicast_port_failure_text(payload_cursor& in, ui::event::text_output& out)
+render::colour multicast_port_failure_text(payload_cursor& in, output::text& out)
 {
     const std::uint16_t count = in.read_u16();
     out << "Multicast Port Failure: "_w;
@@ -85,7 +85,7 @@ render::colour multicast_port_failure_text(payload_cursor& in, ui::event::text_o
     return render::colours::failure;
 }
 
-void unit_reset_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void unit_reset_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     const std::int32_t type = in.read_i32();
     // Deliberate: three tabs, one more than every other line of the fragment.
@@ -94,7 +94,7 @@ void unit_reset_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
     write_outcome(out, read_command_result(in), unit_reset_result_element);
 }
 
-render::colour unit_reset_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_reset_text(payload_cursor& in, output::text& out)
 {
     // The type is a u32 that the sentence has always shown signed.
     out << reset_type{in.read_i32(), unit_reset_sentence};
@@ -105,7 +105,7 @@ render::colour unit_reset_text(payload_cursor& in, ui::event::text_output& out)
     return command;
 }
 
-void subnet_reset_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void subnet_reset_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     const std::uint8_t type = in.read_u8();
     out << "\t\t<reset-type>"_w << reset_type{type, subnet_reset_element} << "</reset-type>\n"_w;
@@ -115,7 +115,7 @@ void subnet_reset_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
     write_outcome(out, read_command_result(in), subnet_reset_result_element);
 }
 
-render::colour subnet_reset_text(payload_cursor& in, ui::event::text_output& out)
+render::colour subnet_reset_text(payload_cursor& in, output::text& out)
 {
     out << reset_type{in.read_u8(), subnet_reset_sentence};
     const subnet net = read_subnet(in);
@@ -124,7 +124,7 @@ render::colour subnet_reset_text(payload_cursor& in, ui::event::text_output& out
     return command;
 }
 
-void save_to_flash_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void save_to_flash_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     out << "\t\t<!-- Save EEPROM -->\n"_w;
     write_blind_mode_element(out, read_blind_mode(in));
@@ -132,7 +132,7 @@ void save_to_flash_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
     write_result_element(out, result.empty() ? "success"_w : result.view());
 }
 
-render::colour save_to_flash_text(payload_cursor& in, ui::event::text_output& out)
+render::colour save_to_flash_text(payload_cursor& in, output::text& out)
 {
     const bool blind = read_blind_mode(in);
     // The unit reports trouble only in the text that follows; the sentence
@@ -144,13 +144,13 @@ render::colour save_to_flash_text(payload_cursor& in, ui::event::text_output& ou
     return command;
 }
 
-void force_registration_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void force_registration_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     out << "\t\t<!-- Force Registration -->\n"_w;
     write_result_element_if_any(out, in.read_wstring(), "\t\t"_w);
 }
 
-render::colour force_registration_text(payload_cursor& in, ui::event::text_output& out)
+render::colour force_registration_text(payload_cursor& in, output::text& out)
 {
     out << "Force Registration"_w;
     const payload_text result = in.read_wstring();

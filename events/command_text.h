@@ -9,7 +9,7 @@
 #include <type_traits>
 
 #include "core/option_entry.h"
-#include "core/output_stream.h"
+#include "core/output_buffer.h"
 #include "core/payload_cursor.h"
 #include "core/text_format.h"
 #include "events/event_text.h"

@@ -13,9 +13,6 @@ namespace {
 
 using render::colour;
 using namespace render::colours;
-using ui::event::text_output;
-using ui::event::verbatim_xml_output;
-using ui::event::xml_output;
 
 // Each event's fields are read in full before anything is written, so a short
 // payload leaves an empty buffer. Braced initialisers run left to right, so
@@ -36,23 +33,23 @@ constexpr outcome_wording failure_tail{""_w, ": "_w, ""_w};
 
 // Ends a sentence with its outcome and gives its colour: failures show in the
 // failure colour, whatever the event.
-colour end_with_outcome(text_output& out, const outcome& result, colour success)
+colour end_with_outcome(output::text& out, const outcome& result, colour success)
 {
     write_outcome(out, result, failure_tail);
     return result.failed() ? failure : success;
 }
 
 // The `Result` element of the XML stream forms: "Ok", or the error text.
-void write_result_line(xml_output& out, const outcome& result)
+void write_result_line(output::xml& out, const outcome& result)
 {
-    write_element_line(out, "Result"_w, result.failed() ? result.error.view() : "Ok"_w);
+    out.element_line("Result"_tag, result.failed() ? result.error.view() : "Ok"_w);
 }
 
 // The upgrades' `Failure` element, only after a failure.
-void write_failure_line(xml_output& out, const outcome& result)
+void write_failure_line(output::xml& out, const outcome& result)
 {
     if (result.failed())
-        write_element_line(out, "Failure"_w, result.error.view());
+        out.element_line("Failure"_tag, result.error.view());
 }
 
 // --- Unit property switches -------------------------------------------------
@@ -61,14 +58,14 @@ void write_failure_line(xml_output& out, const outcome& result)
 // of the text form and the element of the XML form.
 struct property_switch {
     wstring_view label;
-    wstring_view element;
+    const output::element_name* element;
 };
 
 constexpr std::array<property_switch, 4> unit_switches{{
-    {"Front Panel Lock Out"_w, "FrontPanelLockout"_w},
-    {"Unlock Alarm Mask"_w, "UnlockAlarmMask"_w},
-    {"Enable Heartbeat"_w, "EnableHeartbeat"_w},
-    {"Auto Home State Timeout"_w, "AutoHomeStateTimeout"_w},
+    {"Front Panel Lock Out"_w, &"FrontPanelLockout"_tag},
+    {"Unlock Alarm Mask"_w, &"UnlockAlarmMask"_tag},
+    {"Enable Heartbeat"_w, &"EnableHeartbeat"_tag},
+    {"Auto Home State Timeout"_w, &"AutoHomeStateTimeout"_tag},
 }};
 
 // Each switch is a u32 that counts only as zero or not zero.
@@ -93,12 +90,12 @@ struct upgrade {
     }
 
     // "<image>, <rate>", after the event's own lead-in.
-    void write_text(text_output& out) const { out << image.view() << ", "_w << rate; }
+    void write_text(output::text& out) const { out << image.view() << ", "_w << rate; }
 
-    void write_xml(xml_output& out) const
+    void write_xml(output::xml& out) const
     {
-        write_element_line(out, "Image"_w, image.view());
-        write_element_line(out, "Rate"_w, rate);
+        out.element_line("Image"_tag, image.view());
+        out.element_line("Rate"_tag, rate);
     }
 };
 
@@ -190,18 +187,18 @@ struct unit_properties_v32 {
 
 // --- Corvane Unit Properties Saved ------------------------------------------
 
-void corvane_unit_properties_saved_xml(payload_cursor& in, xml_output& out)
+void corvane_unit_properties_saved_xml(payload_cursor& in, output::xml& out)
 {
     const auto on = read_unit_switches(in);
     // The result text is optional here: the switches alone make a complete event.
     const payload_text result = in.remaining() > 0 ? in.read_wstring() : payload_text{};
     for (std::size_t i = 0; i < unit_switches.size(); ++i)
-        write_element_line(out, unit_switches[i].element, lowercase_true_false(on[i]));
+        out.element_line(*unit_switches[i].element, lowercase_true_false(on[i]));
     if (!result.empty())
-        write_element_line(out, "result"_w, result.view());
+        out.element_line("result"_tag, result.view());
 }
 
-colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
+colour corvane_unit_properties_saved_text(payload_cursor& in, output::text& out)
 {
     const auto on = read_unit_switches(in);
     out << "Unit Properties Saved, "_w;
@@ -212,18 +209,18 @@ colour corvane_unit_properties_saved_text(payload_cursor& in, text_output& out)
 
 // --- Unit Properties Saved --------------------------------------------------
 
-void unit_properties_saved_xml(payload_cursor& in, xml_output& out)
+void unit_properties_saved_xml(payload_cursor& in, output::xml& out)
 {
     const unit_properties p = unit_properties::read(in);
-    write_element_line(out, "IpAddress"_w, dotted_ipv4{p.address});
-    write_element_line(out, "FrontPanelLockout"_w, lowercase_true_false(p.lockout));
-    write_element_line(out, "UnlockAlarmMask"_w, lowercase_true_false(p.unlockMask));
-    write_element_line(out, "EnableHeartbeat"_w, lowercase_true_false(p.heartbeat));
-    write_element_line(out, "AutoHomeStateTimeout"_w, decimal(p.homeStateTimeout));
+    out.element_line("IpAddress"_tag, dotted_ipv4{p.address});
+    out.element_line("FrontPanelLockout"_tag, lowercase_true_false(p.lockout));
+    out.element_line("UnlockAlarmMask"_tag, lowercase_true_false(p.unlockMask));
+    out.element_line("EnableHeartbeat"_tag, lowercase_true_false(p.heartbeat));
+    out.element_line("AutoHomeStateTimeout"_tag, decimal(p.homeStateTimeout));
     write_result_line(out, p.result);
 }
 
-colour unit_properties_saved_text(payload_cursor& in, text_output& out)
+colour unit_properties_saved_text(payload_cursor& in, output::text& out)
 {
     const unit_properties p = unit_properties::read(in);
     // Deliberate: no blank after "IP:".
@@ -235,15 +232,15 @@ colour unit_properties_saved_text(payload_cursor& in, text_output& out)
 
 // --- GULL Properties Saved --------------------------------------------------
 
-void gull_properties_saved_xml(payload_cursor& in, xml_output& out)
+void gull_properties_saved_xml(payload_cursor& in, output::xml& out)
 {
     const gull_properties p = gull_properties::read(in);
-    write_element_line(out, "IpAddress"_w, dotted_ipv4{p.address});
-    write_element_line(out, "Name"_w, p.name.view());
+    out.element_line("IpAddress"_tag, dotted_ipv4{p.address});
+    out.element_line("Name"_tag, p.name.view());
     write_result_line(out, p.result);
 }
 
-colour gull_properties_saved_text(payload_cursor& in, text_output& out)
+colour gull_properties_saved_text(payload_cursor& in, output::text& out)
 {
     const gull_properties p = gull_properties::read(in);
     // Deliberate: no blank after "IP:".
@@ -253,12 +250,12 @@ colour gull_properties_saved_text(payload_cursor& in, text_output& out)
 
 // --- Corvane Register Network ID --------------------------------------------
 
-void register_network_id_xml(payload_cursor& in, xml_output& out)
+void register_network_id_xml(payload_cursor& in, output::xml& out)
 {
-    write_element_line(out, "network-id"_w, decimal(in.read_u8()));
+    out.element_line("network-id"_tag, decimal(in.read_u8()));
 }
 
-colour register_network_id_text(payload_cursor& in, text_output& out)
+colour register_network_id_text(payload_cursor& in, output::text& out)
 {
     const std::uint8_t network = in.read_u8();
     out << "A network wide registration was issued for the network with the id of "_w << decimal(network) << "."_w;
@@ -267,12 +264,12 @@ colour register_network_id_text(payload_cursor& in, text_output& out)
 
 // --- Corvane Unit Paramfile Write -------------------------------------------
 
-void paramfile_write_xml(payload_cursor& in, xml_output& out)
+void paramfile_write_xml(payload_cursor& in, output::xml& out)
 {
-    write_element_line(out, "save"_w, lowercase_true_false(in.read_u8() != 0));
+    out.element_line("save"_tag, lowercase_true_false(in.read_u8() != 0));
 }
 
-colour paramfile_write_text(payload_cursor& in, text_output& out)
+colour paramfile_write_text(payload_cursor& in, output::text& out)
 {
     const bool saved = in.read_u8() != 0;
     out << "A param file was written to the unit."_w;
@@ -283,12 +280,12 @@ colour paramfile_write_text(payload_cursor& in, text_output& out)
 
 // --- Corvane Unit Paramfile Autosave ----------------------------------------
 
-void paramfile_autosave_xml(payload_cursor& in, xml_output& out)
+void paramfile_autosave_xml(payload_cursor& in, output::xml& out)
 {
-    write_element_line(out, "result"_w, wstring_view(in.read_u8() != 0 ? "failed"_w : "succeeded"_w));
+    out.element_line("result"_tag, wstring_view(in.read_u8() != 0 ? "failed"_w : "succeeded"_w));
 }
 
-colour paramfile_autosave_text(payload_cursor& in, text_output& out)
+colour paramfile_autosave_text(payload_cursor& in, output::text& out)
 {
     const bool failed = in.read_u8() != 0;
     // Deliberate: a doubled blank after "backup" and a final line break.
@@ -298,7 +295,7 @@ colour paramfile_autosave_text(payload_cursor& in, text_output& out)
 
 // --- Corvane Unit Upgrade, Corvane Multiple Unit Upgrade --------------------
 
-void unit_upgrade_xml(payload_cursor& in, xml_output& out)
+void unit_upgrade_xml(payload_cursor& in, output::xml& out)
 {
     const upgrade u = upgrade::read(in);
     const outcome result = read_outcome(in);
@@ -306,7 +303,7 @@ void unit_upgrade_xml(payload_cursor& in, xml_output& out)
     write_failure_line(out, result);
 }
 
-colour unit_upgrade_text(payload_cursor& in, text_output& out)
+colour unit_upgrade_text(payload_cursor& in, output::text& out)
 {
     const upgrade u = upgrade::read(in);
     const outcome result = read_outcome(in);
@@ -315,17 +312,17 @@ colour unit_upgrade_text(payload_cursor& in, text_output& out)
     return end_with_outcome(out, result, command);
 }
 
-void multiple_unit_upgrade_xml(payload_cursor& in, xml_output& out)
+void multiple_unit_upgrade_xml(payload_cursor& in, output::xml& out)
 {
     const upgrade u = upgrade::read(in);
     const std::uint32_t units = in.read_u32();
     const outcome result = read_outcome(in);
     u.write_xml(out);
-    write_element_line(out, "Units"_w, decimal(units));
+    out.element_line("Units"_tag, decimal(units));
     write_failure_line(out, result);
 }
 
-colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
+colour multiple_unit_upgrade_text(payload_cursor& in, output::text& out)
 {
     const upgrade u = upgrade::read(in);
     const std::uint32_t units = in.read_u32();
@@ -338,16 +335,16 @@ colour multiple_unit_upgrade_text(payload_cursor& in, text_output& out)
 
 // --- Heartbeat Toggled ------------------------------------------------------
 
-void heartbeat_toggled_xml(payload_cursor& in, xml_output& out)
+void heartbeat_toggled_xml(payload_cursor& in, output::xml& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
-    write_element_line(out, "Enabled"_w, lowercase_true_false(h.enabled));
-    write_element_line(out, "Timeout"_w, decimal(h.timeout));
-    write_element_line(out, "Interval"_w, decimal(h.interval));
+    out.element_line("Enabled"_tag, lowercase_true_false(h.enabled));
+    out.element_line("Timeout"_tag, decimal(h.timeout));
+    out.element_line("Interval"_tag, decimal(h.interval));
     write_result_line(out, h.result);
 }
 
-colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
+colour heartbeat_toggled_text(payload_cursor& in, output::text& out)
 {
     const heartbeat_change h = heartbeat_change::read(in);
     // Deliberate: no blank after "Enabled:".
@@ -358,14 +355,14 @@ colour heartbeat_toggled_text(payload_cursor& in, text_output& out)
 
 // --- Auto Home-state Timeout Changed ----------------------------------------
 
-void home_state_timeout_changed_xml(payload_cursor& in, xml_output& out)
+void home_state_timeout_changed_xml(payload_cursor& in, output::xml& out)
 {
     const home_state_change h = home_state_change::read(in);
-    write_element_line(out, "Interval"_w, decimal(h.interval));
+    out.element_line("Interval"_tag, decimal(h.interval));
     write_result_line(out, h.result);
 }
 
-colour home_state_timeout_changed_text(payload_cursor& in, text_output& out)
+colour home_state_timeout_changed_text(payload_cursor& in, output::text& out)
 {
     const home_state_change h = home_state_change::read(in);
     out << "Interval: "_w << decimal(h.interval) << "s"_w;
@@ -374,7 +371,7 @@ colour home_state_timeout_changed_text(payload_cursor& in, text_output& out)
 
 // --- Corvane Manager Properties Saved ---------------------------------------
 
-void manager_properties_saved_xml(payload_cursor& in, verbatim_xml_output& out)
+void manager_properties_saved_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     const std::int32_t force_restart = in.read_i32();
     const payload_text result = in.read_wstring();
@@ -384,7 +381,7 @@ void manager_properties_saved_xml(payload_cursor& in, verbatim_xml_output& out)
     write_result_element_if_any(out, result);
 }
 
-colour manager_properties_saved_text(payload_cursor& in, text_output& out)
+colour manager_properties_saved_text(payload_cursor& in, output::text& out)
 {
     const bool restarted = in.read_i32() != 0;
     const payload_text result = in.read_wstring();
@@ -397,7 +394,7 @@ colour manager_properties_saved_text(payload_cursor& in, text_output& out)
 
 // --- Corvane Unit Properties Saved Orrin 3.2 --------------------------------
 
-void unit_properties_saved_v32_xml(payload_cursor& in, verbatim_xml_output& out)
+void unit_properties_saved_v32_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     const unit_properties_v32 p = unit_properties_v32::read(in);
     // Deliberate: the doubled blank before "-->".
@@ -408,7 +405,7 @@ void unit_properties_saved_v32_xml(payload_cursor& in, verbatim_xml_output& out)
     write_result_element_if_any(out, p.result);
 }
 
-colour unit_properties_saved_v32_text(payload_cursor& in, text_output& out)
+colour unit_properties_saved_v32_text(payload_cursor& in, output::text& out)
 {
     const unit_properties_v32 p = unit_properties_v32::read(in);
     // Deliberate: no blank after "IP:".
@@ -421,7 +418,7 @@ colour unit_properties_saved_v32_text(payload_cursor& in, text_output& out)
 
 // --- Corvane Device Properties Saved ----------------------------------------
 
-void device_properties_saved_xml(payload_cursor& in, verbatim_xml_output& out)
+void device_properties_saved_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     const device_properties p = device_properties::read(in);
     // Deliberate: a tab before </DeviceName> and no line break after it.
@@ -436,7 +433,7 @@ void device_properties_saved_xml(payload_cursor& in, verbatim_xml_output& out)
     write_result_element_if_any(out, p.result);
 }
 
-colour device_properties_saved_text(payload_cursor& in, text_output& out)
+colour device_properties_saved_text(payload_cursor& in, output::text& out)
 {
     const device_properties p = device_properties::read(in);
     out << "Device properties saved. Name: "_w << p.name.view() << ", Carrier: "_w;
@@ -454,7 +451,7 @@ colour device_properties_saved_text(payload_cursor& in, text_output& out)
 // a text directly after the two words. A payload written for one form is
 // misread by the other.
 
-void modem_flag_xml(payload_cursor& in, verbatim_xml_output& out)
+void modem_flag_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     in.read_u32();
     in.read_u32();
@@ -464,7 +461,7 @@ void modem_flag_xml(payload_cursor& in, verbatim_xml_output& out)
     write_result_element_if_any(out, result, "\t\t"_w);
 }
 
-colour modem_flag_text(payload_cursor& in, text_output& out)
+colour modem_flag_text(payload_cursor& in, output::text& out)
 {
     in.read_u32();
     in.read_u32();
@@ -474,7 +471,7 @@ colour modem_flag_text(payload_cursor& in, text_output& out)
 
 // --- Demodulator Failed Event -----------------------------------------------
 
-colour demodulator_failed_text(payload_cursor&, text_output& out)
+colour demodulator_failed_text(payload_cursor&, output::text& out)
 {
     out << "Device marked as unavailable due to switching error."_w;
     return failure;

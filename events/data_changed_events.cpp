@@ -68,33 +68,33 @@ static_assert(std::size(osprey_sections) <= 16);
 
 }   // namespace
 
-render::colour properties_modified(payload_cursor&, ui::event::text_output& out)
+render::colour properties_modified(payload_cursor&, output::text& out)
 {
     out << "Properties were modified."_w;
     return render::colours::inventory;
 }
 
-void falcon_data_changed(payload_cursor& in, ui::event::xml_output& out)
+void falcon_data_changed(payload_cursor& in, output::xml& out)
 {
     change_sets::write(in, out, falcon);
 }
 
-void osprey_data_changed(payload_cursor& in, ui::event::xml_output& out)
+void osprey_data_changed(payload_cursor& in, output::xml& out)
 {
     change_sets::write(in, out, osprey);
 }
 
-void osprey_data_changed_v2(payload_cursor& in, ui::event::xml_output& out)
+void osprey_data_changed_v2(payload_cursor& in, output::xml& out)
 {
     change_sets::write(in, out, osprey_v2);
 }
 
-void heron_unit_data_changed(payload_cursor& in, ui::event::xml_output& out)
+void heron_unit_data_changed(payload_cursor& in, output::xml& out)
 {
     change_sets::write(in, out, heron_unit);
 }
 
-void heron_device_data_changed(payload_cursor& in, ui::event::xml_output& out)
+void heron_device_data_changed(payload_cursor& in, output::xml& out)
 {
     change_sets::write(in, out, heron_device);
 }

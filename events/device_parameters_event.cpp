@@ -90,13 +90,13 @@ record_kind select(payload_cursor& in)
 
 }   // namespace
 
-void device_parameters_changed_xml(payload_cursor& in, ui::event::xml_output& out)
+void device_parameters_changed_xml(payload_cursor& in, output::xml& out)
 {
     xml_change_list changes(out);
     family_a::write_changes(in, changes, select(in));
 }
 
-render::colour device_parameters_changed_text(payload_cursor& in, ui::event::text_output& out)
+render::colour device_parameters_changed_text(payload_cursor& in, output::text& out)
 {
     text_change_list changes(out);
     family_a::write_changes(in, changes, select(in));

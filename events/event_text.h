@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/event_output.h"
-#include "core/output_stream.h"
+#include "core/xml_writer.h"
+#include "core/output_buffer.h"
 #include "core/payload_cursor.h"
 #include "core/text_format.h"
 #include "devices/device_types.h"

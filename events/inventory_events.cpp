@@ -16,7 +16,7 @@ void write_bracketed(Out& out, designation unit)
 
 // --- Units joining or leaving the network (5-byte payloads) -----------------
 
-render::colour write_membership_text(payload_cursor& in, ui::event::text_output& out, wstring_view change)
+render::colour write_membership_text(payload_cursor& in, output::text& out, wstring_view change)
 {
     const designation unit = read_designation(in);
     out << "The node '"_w << unit << "' was "_w << change << " the network."_w;
@@ -47,7 +47,7 @@ struct unit_move_form {
 constexpr unit_move_form unit_removed_form{"<!-- Unit Removed -->\n"_w, "\t\t\t"_w};
 constexpr unit_move_form unit_inserted_form{"<!-- Unit Inserted -->\n"_w, "\t"_w};
 
-void write_unit_move_xml(payload_cursor& in, ui::event::verbatim_xml_output& out, const unit_move_form& form)
+void write_unit_move_xml(payload_cursor& in, output::verbatim_xml& out, const unit_move_form& form)
 {
     out << form.comment;
     const unit_move move = read_unit_move(in);
@@ -57,13 +57,13 @@ void write_unit_move_xml(payload_cursor& in, ui::event::verbatim_xml_output& out
 
 }   // namespace
 
-void unit_destroy_xml(payload_cursor& in, ui::event::xml_output& out)
+void unit_destroy_xml(payload_cursor& in, output::xml& out)
 {
-    write_element_line(out, "node"_w, read_designation(in));
-    write_element_line(out, "result"_w, in.read_wstring().view());
+    out.element_line("node"_tag, read_designation(in));
+    out.element_line("result"_tag, in.read_wstring().view());
 }
 
-render::colour unit_destroy_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_destroy_text(payload_cursor& in, output::text& out)
 {
     write_bracketed(out, read_designation(in));
     out << "removal requested from Orrin console"_w;
@@ -71,28 +71,28 @@ render::colour unit_destroy_text(payload_cursor& in, ui::event::text_output& out
     return inventory;
 }
 
-void unit_membership_xml(payload_cursor& in, ui::event::xml_output& out)
+void unit_membership_xml(payload_cursor& in, output::xml& out)
 {
     // Character data of whatever element the host has open around it.
     out << read_designation(in);
 }
 
-render::colour unit_inserted_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_inserted_text(payload_cursor& in, output::text& out)
 {
     return write_membership_text(in, out, "inserted into"_w);
 }
 
-render::colour unit_removed_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_removed_text(payload_cursor& in, output::text& out)
 {
     return write_membership_text(in, out, "removed from"_w);
 }
 
-void unit_removed_v32_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void unit_removed_v32_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     write_unit_move_xml(in, out, unit_removed_form);
 }
 
-render::colour unit_removed_v32_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_removed_v32_text(payload_cursor& in, output::text& out)
 {
     const unit_move move = read_unit_move(in);
     write_bracketed(out, move.unit);
@@ -100,7 +100,7 @@ render::colour unit_removed_v32_text(payload_cursor& in, ui::event::text_output&
     return inventory;
 }
 
-void unit_declared_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void unit_declared_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     // Deliberate: the doubled blank before "-->".
     out << "<!-- Declare Modem  -->\n"_w;
@@ -110,7 +110,7 @@ void unit_declared_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
     write_result_element_if_any(out, in.read_wstring());
 }
 
-render::colour unit_declared_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_declared_text(payload_cursor& in, output::text& out)
 {
     const designation unit = read_designation(in);
     out << "New unit ["_w << unit << "] declared from Orrin console"_w;
@@ -119,12 +119,12 @@ render::colour unit_declared_text(payload_cursor& in, ui::event::text_output& ou
     return inventory;
 }
 
-void unit_inserted_v32_xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void unit_inserted_v32_xml(payload_cursor& in, output::verbatim_xml& out)
 {
     write_unit_move_xml(in, out, unit_inserted_form);
 }
 
-render::colour unit_inserted_v32_text(payload_cursor& in, ui::event::text_output& out)
+render::colour unit_inserted_v32_text(payload_cursor& in, output::text& out)
 {
     const unit_move move = read_unit_move(in);
     write_bracketed(out, move.unit);
@@ -161,7 +161,7 @@ constexpr network_notice scan_network_notice{"Scan Network command sent to netwo
                                              "<!-- Scan Network  -->\n"_w, false, ""_w};
 
 template <const network_notice& Notice>
-void network_notice_renderers<Notice>::xml(payload_cursor& in, ui::event::verbatim_xml_output& out)
+void network_notice_renderers<Notice>::xml(payload_cursor& in, output::verbatim_xml& out)
 {
     out << Notice.comment;
     if (Notice.namesNetwork) {
@@ -173,7 +173,7 @@ void network_notice_renderers<Notice>::xml(payload_cursor& in, ui::event::verbat
 }
 
 template <const network_notice& Notice>
-render::colour network_notice_renderers<Notice>::text(payload_cursor& in, ui::event::text_output& out)
+render::colour network_notice_renderers<Notice>::text(payload_cursor& in, output::text& out)
 {
     // The sentence does not name the network; only the XML form shows it.
     if (Notice.namesNetwork)

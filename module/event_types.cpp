@@ -20,8 +20,8 @@ using render::text_form;
 using render::xml_form;
 
 // The two XML dialects: fixed literals exactly as they stand, or elements.
-using verbatim = ui::event::verbatim_xml_output;
-using elements = ui::event::xml_output;
+using verbatim = output::verbatim_xml;
+using elements = output::xml;
 
 // "Multicast Port Failure" carries a count and exactly that many characters.
 struct counted_message_size {

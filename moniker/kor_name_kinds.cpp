@@ -15,8 +15,6 @@
 
 namespace {
 
-using output = io::text::output_stream<wchar>;
-
 constexpr std::uint32_t little_endian(std::uint8_t b0, std::uint8_t b1, std::uint8_t b2 = 0,
                                       std::uint8_t b3 = 0) noexcept
 {
@@ -41,7 +39,7 @@ void read_mac(text_reader& in, KorName& name)
     }
 }
 
-void write_mac(output& out, const KorName& name)
+void write_mac(output::buffer& out, const KorName& name)
 {
     const auto& m = name.mac;
     out << hex_byte{m[5]} << hex_byte{m[4]} << hex_byte{m[3]} << "-"_w << hex_byte{m[2]} << hex_byte{m[1]}
@@ -70,7 +68,7 @@ void read_address(text_reader& in, KorName& name)
     name.address = address;
 }
 
-void write_address(output& out, const KorName& name)
+void write_address(output::buffer& out, const KorName& name)
 {
     out << dotted_ipv4{name.address};
 }
@@ -92,7 +90,7 @@ void read_extension(text_reader& in, KorName& name)
     name.subIndex = read_decimal_byte(in);
 }
 
-void write_extension(output& out, const KorName& name)
+void write_extension(output::buffer& out, const KorName& name)
 {
     out << decimal(name.idValue) << ","_w << decimal(name.subIndex);
 }
@@ -114,7 +112,7 @@ void read_transponder(text_reader& in, KorName& name)
     name.transponder = read_decimal_byte(in);
 }
 
-void write_transponder(output& out, const KorName& name)
+void write_transponder(output::buffer& out, const KorName& name)
 {
     out << decimal(name.transponder);
 }

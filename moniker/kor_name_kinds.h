@@ -10,7 +10,7 @@
 #include <span>
 #include <string_view>
 
-#include "core/output_stream.h"
+#include "core/output_buffer.h"
 #include "core/text_reader.h"
 #include "core/wide.h"
 #include "core/win_types.h"
@@ -36,7 +36,7 @@ struct kor_name_kind {
     // This kind's own fields of the display name, read into the name and
     // printed from it.
     void (*read)(text_reader& in, KorName& name);
-    void (*write)(io::text::output_stream<wchar>& out, const KorName& name);
+    void (*write)(output::buffer& out, const KorName& name);
 
     // The fields as stored and compared, in order: the six MAC bytes when
     // `mac`, then `words`.

@@ -6,12 +6,10 @@
 
 namespace {
 
-using output = io::text::output_stream<wchar>;
-
 // The head, the "-" after it, then the fields of the kind and of every kind
 // it extends, the earliest first. The head of a device form is the key of the
 // type's low byte as the table spells it, whatever case the name was parsed in.
-void write_name(output& out, const kor_name_kind& kind, const KorName& name)
+void write_name(output::buffer& out, const kor_name_kind& kind, const KorName& name)
 {
     if (kind.extends) {
         write_name(out, kor_name_kinds()[*kind.extends], name);
@@ -36,7 +34,7 @@ HRESULT print_kor_name(const KorName& name, wchar* buffer, std::size_t capacity)
     if (!kind)
         return E_UNEXPECTED;
     return guarded([&] {
-        output out(buffer, capacity);
+        output::buffer out(buffer, capacity);
         out << "kor:"_w;
         write_name(out, *kind, name);
         return S_OK;

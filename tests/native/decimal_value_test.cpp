@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::int64_t limit = 14411518807585587;
 
-std::string text_of(decimal_value value)
+std::string shown(decimal_value value)
 {
     return utf8(value.digits().view());
 }
@@ -79,7 +79,7 @@ TEST(DecimalValue, DigitsDropTrailingZerosAndKeepEverySignificantOne)
         {-decimal_value::mantissa_max, 63, "-0." + std::string(45, '0') + "144115188075855871"},
     };
     for (const row& r : rows)
-        EXPECT_EQ(text_of(decimal_value::from(r.mantissa, r.places)), r.text) << r.mantissa << "/" << r.places;
+        EXPECT_EQ(shown(decimal_value::from(r.mantissa, r.places)), r.text) << r.mantissa << "/" << r.places;
 }
 
 TEST(DecimalValue, AnExtraPlaceNeedsRoomBelowTheScaleLimit)
@@ -107,7 +107,7 @@ TEST(DecimalValue, AnExtraPlaceNeedsRoomBelowTheScaleLimit)
         const decimal_value raised = v.with_extra_place();
         EXPECT_EQ(raised.mantissa(), r.mantissa * 10);
         EXPECT_EQ(raised.places(), r.places + 1);
-        EXPECT_EQ(text_of(raised), r.text);
+        EXPECT_EQ(shown(raised), r.text);
     }
 }
 
@@ -142,7 +142,7 @@ TEST(DecimalValue, DivisionKeepsEveryDigitTheMantissaCanHold)
         {1000, 62, 1000, "0." + std::string(61, '0') + "1"},
     };
     for (const row& r : rows)
-        EXPECT_EQ(text_of(decimal_value::from(r.mantissa, r.places).divided_by(r.divisor)), r.text)
+        EXPECT_EQ(shown(decimal_value::from(r.mantissa, r.places).divided_by(r.divisor)), r.text)
             << r.mantissa << "/" << r.places << " by " << r.divisor;
 }
 
@@ -175,7 +175,7 @@ TEST(DecimalValue, DigitsAndMagnitudeAgreeWithThePlaceByPlaceReference)
     for (const std::int64_t m : reference::mantissas())
         for (unsigned p = 0; p <= decimal_value::max_places; ++p) {
             const decimal_value v = decimal_value::from(m, p);
-            ASSERT_EQ(text_of(v), reference::digits({m, p})) << m << "e-" << p;
+            ASSERT_EQ(shown(v), reference::digits({m, p})) << m << "e-" << p;
             const std::uint64_t whole = reference::whole_magnitude({m, p});
             ASSERT_EQ(v.whole_digits(), whole == 0 ? 0 : std::to_string(whole).size()) << m << "e-" << p;
         }

@@ -6,8 +6,9 @@
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <vector>
 
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 #include "core/text_format.h"
 #include "tests/native/test_text.h"
 
@@ -17,6 +18,8 @@ constexpr wchar canary = 0xCCCC;
 
 static_assert("a\tb"_w == wstring_view(WSTR("a\tb")), "literals are UTF-16 when compiled");
 static_assert("a\0b"_w.size() == 3, "a literal keeps the units it spells, NULs included");
+static_assert("a\n"_w.endsLine && !"a\n"_w.breaksInside && "a\nb"_w.breaksInside && !"a\nb"_w.endsLine,
+              "a literal knows its line feeds when compiled");
 
 template <std::size_t N>
 struct guarded_buffer {
@@ -25,7 +28,7 @@ struct guarded_buffer {
     wchar* data() { return units.data(); }
 };
 
-TEST(OutputStream, PieceFitsOnlyWithRoomForTheTerminator)
+TEST(OutputBuffer, PieceFitsOnlyWithRoomForTheTerminator)
 {
     struct test_case {
         std::size_t capacity;
@@ -35,51 +38,50 @@ TEST(OutputStream, PieceFitsOnlyWithRoomForTheTerminator)
     for (const test_case& c : std::initializer_list<test_case>{
              {4, "abc", true}, {4, "abcd", false}, {1, "", true}, {1, "a", false}, {2, "a", true}, {10, "", true}}) {
         guarded_buffer<16> buffer;
-        ui::event::text_output out(buffer.data(), c.capacity);
-        if (c.fits) {
-            out << wide(c.piece);
-            EXPECT_EQ(utf8(buffer.data()), c.piece);
-        } else {
-            EXPECT_THROW(out << wide(c.piece), io::overflow);
-            EXPECT_EQ(buffer.units[0], 0) << "a refused piece leaves the buffer as it was";
+        {
+            output::text out(buffer.data(), c.capacity);
+            if (c.fits)
+                out << wide(c.piece);
+            else
+                EXPECT_THROW(out << wide(c.piece), io::overflow);
         }
+        EXPECT_EQ(utf8(buffer.data()), c.fits ? c.piece : "") << "a refused piece leaves the buffer as it was";
         EXPECT_EQ(buffer.units[c.capacity], canary) << "capacity " << c.capacity;
     }
 }
 
-TEST(OutputStream, NoRoomEvenForTheTerminatorIsAnOverflow)
+TEST(OutputBuffer, NoRoomEvenForTheTerminatorIsAnOverflow)
 {
     wchar unit = canary;
-    EXPECT_THROW(ui::event::text_output(&unit, 0), io::overflow);
+    EXPECT_THROW(output::text(&unit, 0), io::overflow);
     EXPECT_EQ(unit, canary);
 }
 
-TEST(OutputStream, RunTimeNarrowTextIsWidenedWithTheAnsiCodePage)
+TEST(OutputBuffer, RunTimeNarrowTextIsWidenedWithTheAnsiCodePage)
 {
     std::array<wchar, 8> buffer{};
-    ui::event::text_output out(buffer.data(), buffer.size());
+    output::text out(buffer.data(), buffer.size());
     out << ansi_text("\x80\xE9");   // euro sign and e acute in Windows-1252
     EXPECT_EQ(buffer[0], 0x20AC);
     EXPECT_EQ(buffer[1], 0x00E9);
 }
 
-TEST(IndentedStream, FillIsWrittenLazilyWithEachLine)
+TEST(PrefixedLines, PrefixGoesOutWithEachLinesFirstUnit)
 {
-    std::array<wchar, 64> buffer{};
-    ui::event::xml_output out(buffer.data(), buffer.size());
-    out.indent_by(3);
-    out << "a\nb\n"_w;
-    out << ""_w;
-    EXPECT_EQ(utf8(buffer.data()), "   a\n   b\n");
-    out << ansi_text("c\nd");
-    EXPECT_EQ(utf8(buffer.data()), "   a\n   b\n   c\n   d");
+    const std::string xml = written<output::xml>([](output::xml& out) {
+        out << "a\nb\n"_w
+            << ""_w
+            << "\n"_w;
+        out << ansi_text("c\nd") << wide("\ne\n") << "f"_w;
+    });
+    EXPECT_EQ(xml, "   a\n   b\n   \n   c\n   d\n   e\n   f");
 }
 
-TEST(XmlStream, AttributeAfterTheTagClosedIsRefused)
+TEST(XmlWriter, AttributeAfterTheTagClosedIsRefused)
 {
     std::array<wchar, 64> buffer{};
-    ui::event::xml_output out(buffer.data(), buffer.size());
-    out.open_element("a"_w);
+    output::xml out(buffer.data(), buffer.size());
+    out.open_element("a"_tag);
     out << "text"_w;
     try {
         out.attribute("late"_w, "1"_w);
@@ -89,26 +91,53 @@ TEST(XmlStream, AttributeAfterTheTagClosedIsRefused)
     }
 }
 
+// An element line goes out as one item when its value holds no line feed,
+// and through the prefixed lines when it does: the same text either way.
+TEST(XmlWriter, ElementLinesAreTheSameWhicheverWayTheyGoOut)
+{
+    const std::string xml = written<output::xml>([](output::xml& out) {
+        out.element_line("a"_tag, "one"_w);
+        out.element_line("b"_tag, wide("two\nlines"));
+        out.open_element("c"_tag);
+        out.element_line("d"_tag, "k"_w, "v"_w, decimal(-7));
+        out.element_line("e"_tag, "k"_w, wide("v\nw"), ""_w);
+        out.close_line();
+        out.open_element("f"_tag);
+        out.close_element();
+    });
+    EXPECT_EQ(xml, "   <a>one</a>\n"
+                   "   <b>two\n   lines</b>\n"
+                   "   <c><d k=\"v\">-7</d>\n"
+                   "   <e k=\"v\n   w\"></e>\n"
+                   "   </c>\n"
+                   "   <f/>");
+}
+
 // The counting form takes every write the writing forms take, and counts
-// what they would have written: fill, closing of start tags and all.
+// what they would have written, prefix and closing of start tags included,
+// however small its scratch area.
 TEST(CountingForm, MeasuresWhatTheSameWritesWrite)
 {
-    const auto write = [](auto& out) {
-        out.indent_by(2);
-        out.open_element("a"_w);
+    const auto write = [](output::xml& out) {
+        out.open_element("a"_tag);
         out.attribute("n"_w, decimal(-42));
         out << "\n"_w << ansi_text("x\ny") << dotted_ipv4{0x0A000001};
-        out.element("b"_w, hex_byte{0xAB}, "\n"_w);
+        out.element_line("b"_tag, hex_byte{0xAB});
+        out << wide("a longer run-time text than the scratch area");
         out.close_element();
     };
     std::array<wchar, 256> buffer{};
-    ui::event::xml_output written(buffer.data(), buffer.size());
+    output::xml written(buffer.data(), buffer.size());
     write(written);
-    ui::event::xml_output counted(io::text::counting);
-    write(counted);
-    EXPECT_EQ(utf8(buffer.data()), "  <a n=\"-42\">\n  x\n  y10.0.0.1<b>AB</b>\n  </a>");
-    EXPECT_EQ(counted.size(), written.size());
-    EXPECT_EQ(counted.data(), nullptr) << "the counting form has no buffer";
+    const std::string expected = "   <a n=\"-42\">\n   x\n   y10.0.0.1<b>AB</b>\n"
+                                 "   a longer run-time text than the scratch area</a>";
+    EXPECT_EQ(utf8(written.view()), expected);
+    for (const std::size_t scratch : {std::size_t(24), output::counting_scratch}) {
+        std::vector<wchar> area(scratch);
+        output::xml counted(output::counting, area);
+        write(counted);
+        EXPECT_EQ(counted.size(), expected.size()) << "scratch " << scratch;
+    }
 }
 
 TEST(NumberShapes, DigitsAsTheyAreShown)

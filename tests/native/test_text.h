@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 #include "core/platform.h"
 #include "core/wide.h"
 
@@ -26,11 +26,11 @@ inline wstring wide(std::string_view ascii)
 }
 
 // What `write` puts into a fresh stream of the given kind, as UTF-8.
-template <class Stream = ui::event::text_output, class Write>
+template <class Stream = output::text, class Write>
 std::string written(Write&& write)
 {
     std::array<wchar, 1024> buffer{};
     Stream out(buffer.data(), buffer.size());
     write(out);
-    return utf8(wstring_view(out.data(), out.size()));
+    return utf8(out.view());
 }

@@ -15,18 +15,15 @@ using show = std::string (*)(std::int64_t raw);
 template <const field_scale& Scale>
 std::string scaled(std::int64_t raw)
 {
-    return written([&](auto& out) {
-        if (raw < 0)
-            formats::scaled{Scale}(out, static_cast<std::int32_t>(raw));
-        else
-            formats::scaled{Scale}(out, static_cast<std::uint32_t>(raw));
-    });
+    if (raw < 0)
+        return utf8(formats::scaled{Scale}.shown(static_cast<std::int32_t>(raw)));
+    return utf8(formats::scaled{Scale}.shown(static_cast<std::uint32_t>(raw)));
 }
 
 template <class Format, class Value>
 std::string shown(std::int64_t raw)
 {
-    return written([&](auto& out) { Format{}(out, static_cast<Value>(raw)); });
+    return utf8(Format{}.shown(static_cast<Value>(raw)));
 }
 
 TEST(ValueFormats, RawValuesAsTheyAreShown)

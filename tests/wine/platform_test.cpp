@@ -7,7 +7,7 @@
 
 #include "core/boundary.h"
 #include "core/errors.h"
-#include "core/event_output.h"
+#include "core/xml_writer.h"
 #include "core/platform.h"
 #include "tests/wine/module_fixture.h"
 
@@ -40,7 +40,7 @@ TEST(Platform, ErrorObjectReachesTheThread)
 TEST(Platform, NarrowTextIsWidenedWithTheAnsiCodePage)
 {
     std::array<wchar_t, 8> buffer{};
-    ui::event::text_output out(buffer.data(), buffer.size());
+    output::text out(buffer.data(), buffer.size());
     out << ansi_text("a\xE9");
     wchar_t expected[2];
     MultiByteToWideChar(CP_ACP, 0, "a\xE9", 2, expected, 2);
