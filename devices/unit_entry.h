@@ -25,7 +25,7 @@ consteval unsigned exponent_of(std::uint64_t multiplier)
     throw "a unit's multiplier is a power of ten";
 }
 
-#define UNIT(text, multiplier) (UnitEntry{text, WSTR(text), exponent_of(multiplier)})
+#define UNIT(text, multiplier) (UnitEntry{text, text##_w.data(), exponent_of(multiplier)})
 
 // Unit rows go from the base unit (multiplier 1) upward.
 consteval bool rising_from_one(std::span<const UnitEntry> table)
