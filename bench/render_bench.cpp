@@ -91,8 +91,8 @@ void replay(benchmark::State& state)
 }
 BENCHMARK(replay)->Threads(1)->Threads(2)->UseRealTime();
 
-const wchar* const names[] = {WSTR("kor:FCN1L-10.0.0.1"), WSTR("kor:fcn1l-010.000.000.001,+7,3"),
-                              WSTR("kor:mac-0006b0-1a2b3c"), WSTR("kor:transponder-12")};
+const wchar* const names[] = {"kor:FCN1L-10.0.0.1"_w.data(), "kor:fcn1l-010.000.000.001,+7,3"_w.data(),
+                              "kor:mac-0006b0-1a2b3c"_w.data(), "kor:transponder-12"_w.data()};
 
 void name_parse(benchmark::State& state)
 {

@@ -19,7 +19,7 @@ struct OptionEntry {
 };
 
 // One row from a single literal, so the narrow and wide texts cannot drift.
-#define OPTION(text, value) (OptionEntry{text, WSTR(text), sizeof(text), (value)})
+#define OPTION(text, value) (OptionEntry{text, text##_w.data(), sizeof(text), (value)})
 
 // The row's text, its length known.
 constexpr wstring_view option_text(const OptionEntry& row) noexcept

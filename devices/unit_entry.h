@@ -26,7 +26,7 @@ consteval unsigned exponent_of(std::uint64_t multiplier)
     throw "a unit's multiplier is a power of ten";
 }
 
-#define UNIT(text, multiplier) (UnitEntry{text, WSTR(text), exponent_of(multiplier)})
+#define UNIT(text, multiplier) (UnitEntry{text, text##_w.data(), exponent_of(multiplier)})
 
 // A unit's text is short: a scaled value is made on the stack with room for
 // this many units after its number.

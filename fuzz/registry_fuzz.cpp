@@ -16,8 +16,8 @@
 
 namespace {
 
-const wstring app_id = WSTR("{E5693989-AC7B-424D-B28F-89CB8FA28587}");
-const wstring module_path = WSTR("C:\\korps.dll");
+constexpr wstring_view app_id = "{E5693989-AC7B-424D-B28F-89CB8FA28587}"_w;
+constexpr wstring_view module_path = "C:\\korps.dll"_w;
 const registry::replacement replacements[] = {{"APPID", app_id}, {"MODULE", module_path}};
 
 }   // namespace

@@ -40,7 +40,7 @@ constexpr GUID listed_ids[] = {
 };
 
 constexpr const wchar* listed_names[] = {
-#define KORPS_EVENT_NAME(symbol, name, ...) WSTR(name),
+#define KORPS_EVENT_NAME(symbol, name, ...) name##_w.data(),
     KORPS_EVENT_TYPES(KORPS_EVENT_NAME)
 #undef KORPS_EVENT_NAME
 };

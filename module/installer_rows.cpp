@@ -14,11 +14,11 @@ wstring formatted(wstring_view text, wstring_view file_id)
     wstring out;
     for (const wchar c : text) {
         if (c == '[' || c == ']') {
-            out += WSTR("[\\");
+            out += "[\\"_w;
             out += c;
             out += ']';
         } else if (c == module_path_marker) {
-            out += WSTR("[#");
+            out += "[#"_w;
             out += file_id;
             out += ']';
         } else {

@@ -177,7 +177,7 @@ void parse_key(script_reader& in, script& out, const wstring& parent, token name
     if (name.text.empty() || name.text.find(wchar('\\')) != wstring::npos)
         in.fail("invalid key name");
     key k;
-    k.path = parent.empty() ? name.text : parent + WSTR("\\") + name.text;
+    k.path = parent.empty() ? name.text : parent + wchar('\\') + name.text;
     k.removal = removal;
     k.line = in.line();
     if (in.skip_mark('='))

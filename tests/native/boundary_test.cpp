@@ -25,7 +25,7 @@ wstring wide_message()
 {
     wstring text;
     while (text.size() < 300)
-        text += WSTR("\u00E9\U0001F600");
+        text += {0x00E9, 0xD83D, 0xDE00};   // U+00E9, then U+1F600 as its surrogate pair
     return text;
 }
 
@@ -36,8 +36,8 @@ com_ptr<com::error_info> error_object(wstring_view description)
 
 TEST(Boundary, ResultAndErrorObjectFollowTheErrorsType)
 {
-    const com_ptr<com::error_info> carried = error_object(WSTR("from the stream"));
-    const com_ptr<com::error_info> stale = error_object(WSTR("left by an earlier call"));
+    const com_ptr<com::error_info> carried = error_object("from the stream"_w);
+    const com_ptr<com::error_info> stale = error_object("left by an earlier call"_w);
     const wstring long_text = wide_message();
     struct test_case {
         const char* name;
@@ -47,22 +47,23 @@ TEST(Boundary, ResultAndErrorObjectFollowTheErrorsType)
     };
     const test_case cases[] = {
         {"com::error", [&] { throw com::error(STG_E_INCOMPLETE, carried.get()); }, STG_E_INCOMPLETE,
-         WSTR("from the stream")},
+         wstring("from the stream"_w)},
         {"derived from com::error", [&] { throw derived_com_error(STG_E_INCOMPLETE, carried.get()); }, STG_E_INCOMPLETE,
-         WSTR("from the stream")},
+         wstring("from the stream"_w)},
         {"com::error without an error object", [] { throw com::error(E_OUTOFMEMORY); }, E_OUTOFMEMORY, std::nullopt},
         {"not_expected", [] { throw not_expected(); }, E_UNEXPECTED, std::nullopt},
         {"derived from not_expected", [] { throw derived_not_expected(); }, E_UNEXPECTED, std::nullopt},
-        {"io::overflow", [] { throw io::overflow(); }, DISP_E_EXCEPTION, WSTR("an overflow occured")},
-        {"io::underflow", [] { throw io::underflow(); }, DISP_E_EXCEPTION, WSTR("an underflow occured")},
+        {"io::overflow", [] { throw io::overflow(); }, DISP_E_EXCEPTION, wstring("an overflow occured"_w)},
+        {"io::underflow", [] { throw io::underflow(); }, DISP_E_EXCEPTION, wstring("an underflow occured"_w)},
         {"wide message", [] { throw io::expected_value<char>("."); }, DISP_E_EXCEPTION,
-         WSTR("Expected a char with a value of '.'.")},
+         wstring("Expected a char with a value of '.'."_w)},
         {"wide message beyond ASCII, unit for unit up to 259", [&] { throw generic_error(long_text); },
          DISP_E_EXCEPTION, long_text.substr(0, 259)},
-        {"runtime_error", [] { throw std::runtime_error("bad alarm id"); }, DISP_E_EXCEPTION, WSTR("bad alarm id")},
+        {"runtime_error", [] { throw std::runtime_error("bad alarm id"); }, DISP_E_EXCEPTION,
+         wstring("bad alarm id"_w)},
         {"runtime_error in UTF-8", [] { throw std::runtime_error("caf\xC3\xA9"); }, DISP_E_EXCEPTION,
-         WSTR("caf\u00E9")},
-        {"plain exception", [] { throw std::exception(); }, DISP_E_EXCEPTION, WSTR("std::exception")},
+         wstring("caf"_w) + wchar(0x00E9)},
+        {"plain exception", [] { throw std::exception(); }, DISP_E_EXCEPTION, wstring("std::exception"_w)},
         {"not an exception", [] { throw 42; }, E_UNEXPECTED, std::nullopt},
     };
     for (const test_case& c : cases) {
@@ -84,7 +85,7 @@ TEST(Boundary, ResultAndErrorObjectFollowTheErrorsType)
 
 TEST(Boundary, SuccessPassesThroughAndLeavesTheErrorObjectAlone)
 {
-    const com_ptr<com::error_info> earlier = error_object(WSTR("earlier"));
+    const com_ptr<com::error_info> earlier = error_object("earlier"_w);
     platform::set_error_info(earlier.get());
     EXPECT_EQ(guarded([] { return S_FALSE; }), S_FALSE);
     const com_ptr<com::error_info> left(platform::take_error_info());

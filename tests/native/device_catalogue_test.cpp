@@ -16,16 +16,15 @@ wstring text(wstring_view v)
     return wstring(v);
 }
 
-const wchar* const invalid = WSTR("(invalid)");
+constexpr wstring_view invalid = "(invalid)"_w;
 
 TEST(DeviceTypeKeys, NameOfTypeByte)
 {
     const struct {
         std::uint8_t type;
-        const wchar* key;
+        wstring_view key;
     } cases[] = {
-        {0, WSTR("none")},     {128, WSTR("gull")}, {180, WSTR("fcn2l")},
-        {109, WSTR("kt-pro")}, {62, invalid},       {255, invalid},
+        {0, "none"_w}, {128, "gull"_w}, {180, "fcn2l"_w}, {109, "kt-pro"_w}, {62, invalid}, {255, invalid},
     };
     for (const auto& c : cases)
         EXPECT_EQ(text(device_type_name(c.type)), text(c.key)) << "type " << int(c.type);
@@ -42,29 +41,29 @@ TEST(DemodTables, LayoutSpecificTexts)
         const demod_value_tables* layout;
         table_of table;
         std::uint8_t value;
-        const wchar* expected;
+        wstring_view expected;
     } cases[] = {
-        {r1, fec_rate, 7, WSTR("1/1 Rate")},
+        {r1, fec_rate, 7, "1/1 Rate"_w},
         {r1, fec_rate, 8, invalid},
         {r2, fec_rate, 8, invalid},
-        {r3, fec_rate, 8, WSTR("Reserved")},
+        {r3, fec_rate, 8, "Reserved"_w},
         {r2, fec_rate, 12, invalid},
-        {r3, fec_rate, 12, WSTR("NimbleFEC QPSK 0.631")},
-        {r3, fec_rate, 27, WSTR("ULL QPSK 0.734")},
+        {r3, fec_rate, 12, "NimbleFEC QPSK 0.631"_w},
+        {r3, fec_rate, 27, "ULL QPSK 0.734"_w},
         {r3, fec_rate, 28, invalid},
-        {r2, fec_type, 6, WSTR("Turbo")},
+        {r2, fec_type, 6, "Turbo"_w},
         {r2, fec_type, 7, invalid},
-        {r3, fec_type, 9, WSTR("NimbleFEC ULL")},
-        {r1, lnb, 3, WSTR("23Vdc")},
-        {r2, lnb, 3, WSTR("23Vdc")},
-        {r3, lnb, 2, WSTR("18Vdc")},
+        {r3, fec_type, 9, "NimbleFEC ULL"_w},
+        {r1, lnb, 3, "23Vdc"_w},
+        {r2, lnb, 3, "23Vdc"_w},
+        {r3, lnb, 2, "18Vdc"_w},
         {r3, lnb, 3, invalid},
-        {r3, band, 0, WSTR("Dual Band")},
-        {r3, band, 1, WSTR("Quad Band")},
-        {r1, &demod_value_tables::externalReference, 5, WSTR("20.0MHz")},
-        {r1, &demod_value_tables::configSlot, 9, WSTR("Config 9")},
-        {r3, &demod_value_tables::sampleInterval, 9, WSTR("90 minutes")},
-        {r3, &demod_value_tables::rollOff, 5, WSTR("5%")},
+        {r3, band, 0, "Dual Band"_w},
+        {r3, band, 1, "Quad Band"_w},
+        {r1, &demod_value_tables::externalReference, 5, "20.0MHz"_w},
+        {r1, &demod_value_tables::configSlot, 9, "Config 9"_w},
+        {r3, &demod_value_tables::sampleInterval, 9, "90 minutes"_w},
+        {r3, &demod_value_tables::rollOff, 5, "5%"_w},
     };
     for (const auto& c : cases)
         EXPECT_EQ(text(lookup_option(c.layout->*c.table, c.value)), text(c.expected)) << "layout "

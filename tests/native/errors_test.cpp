@@ -16,7 +16,7 @@ TEST(Errors, MessagesAndHierarchy)
     EXPECT_STREQ(io::underflow().what(), "an underflow occured");
     EXPECT_STREQ(not_expected().what(), "Catastrophic failure");
     EXPECT_STREQ(text::integer_overflow().what(), "integer overflow");
-    EXPECT_STREQ(generic_error(WSTR("decimal overflow")).what(), "decimal overflow");
+    EXPECT_STREQ(generic_error("decimal overflow"_w).what(), "decimal overflow");
     EXPECT_STREQ(io::expected_value<char>("-").what(), "Expected a char with a value of '-'.");
     EXPECT_STREQ(io::expected_value<char[2]>("-").what(), "Expected a char [2] with a value of '-'.");
     EXPECT_STREQ(io::unexpected_value<char>('-').what(), "Encountered a char with an enexpected value of '-'.");
@@ -79,7 +79,7 @@ TEST(Errors, ComErrorMessage)
 
     // The error and each copy of it hold a reference of their own (the
     // sanitizer build sees a use after the object went otherwise).
-    com_ptr<com::error_info> info(platform::create_error_info(WSTR("disk on fire")));
+    com_ptr<com::error_info> info(platform::create_error_info("disk on fire"_w));
     com::error_info* const object = info.get();
     std::optional<com::error> described(std::in_place, E_FAIL, object);
     info.reset();
@@ -90,7 +90,7 @@ TEST(Errors, ComErrorMessage)
     EXPECT_EQ(copy.info(), object);
     EXPECT_EQ(platform::error_info_description(copy.info()), "disk on fire");
 
-    const com_ptr<com::error_info> empty(platform::create_error_info(WSTR("")));
+    const com_ptr<com::error_info> empty(platform::create_error_info(""_w));
     const com::error undescribed(E_FAIL, empty.get());
     EXPECT_STREQ(undescribed.what(), "unknown error (0x80004005) occurred");
 }

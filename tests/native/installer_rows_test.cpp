@@ -19,7 +19,7 @@ std::string rows_of(const char* script)
 {
     std::string lines;
     for (const registry::installer_row& row :
-         registry::installer_rows(registry::parse_script(wide(script), replacements), WSTR("korps.dll.x64")))
+         registry::installer_rows(registry::parse_script(wide(script), replacements), "korps.dll.x64"_w))
         lines += utf8(row.key) + " | " + utf8(row.name) + " | " + utf8(row.data) + "\n";
     return lines;
 }
@@ -72,8 +72,8 @@ TEST(InstallerRows, KeysAPackageCannotWriteAreRefusedWithTheirLine)
 
 TEST(InstallerRows, WixIncludeQuotesItsAttributes)
 {
-    const std::vector<registry::installer_row> rows = {{WSTR("A&B"), WSTR(""), WSTR("<\"x\">")},
-                                                       {WSTR("K"), WSTR("N"), WSTR("v")}};
+    const std::vector<registry::installer_row> rows = {{wstring("A&B"_w), wstring(), wstring("<\"x\">"_w)},
+                                                       {wstring("K"_w), wstring("N"_w), wstring("v"_w)}};
     const std::string text = registry::wix_include(rows, "a test");
     EXPECT_NE(
         text.find("<RegistryValue Root=\"HKCR\" Key=\"A&amp;B\" Type=\"string\" Value=\"&lt;&quot;x&quot;&gt;\"/>"),

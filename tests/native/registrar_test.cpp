@@ -23,8 +23,8 @@ wstring file_text(const char* name)
     return wstring(bytes.begin(), bytes.end());
 }
 
-const wstring app_id = WSTR("{E5693989-AC7B-424D-B28F-89CB8FA28587}");
-const wstring module_path = WSTR("C:\\Program Files\\Orrin\\korps.dll");
+constexpr wstring_view app_id = "{E5693989-AC7B-424D-B28F-89CB8FA28587}"_w;
+constexpr wstring_view module_path = "C:\\Program Files\\Orrin\\korps.dll"_w;
 const registry::replacement replacements[] = {{"APPID", app_id}, {"MODULE", module_path}};
 
 registry::script script_of(const char* file)
@@ -75,15 +75,15 @@ TEST(Registrar, RegistrationWritesEveryKeyOfBothScripts)
 TEST(Registrar, ReRegistrationRebuildsTheClassAndRemovalKeepsWhatIsNotOurs)
 {
     memory_hive hive;
-    hive.create_key(WSTR("CLSID\\{00000000-0000-0000-0000-000000000001}"));   // another class
-    hive.create_key(WSTR("kor\\HostNotes"));   // a host's own subkey
+    hive.create_key("CLSID\\{00000000-0000-0000-0000-000000000001}"_w);   // another class
+    hive.create_key("kor\\HostNotes"_w);   // a host's own subkey
     const registry::script scripts[] = {script_of("korps_appid.rgs"), script_of("kor_moniker.rgs")};
     for (const auto& s : scripts)
         ASSERT_EQ(registry::register_script(s, hive), S_OK);
     const std::string registered = hive.dump();
 
     // A stale subkey of the class goes with the next registration (ForceRemove).
-    hive.create_key(WSTR("CLSID\\{DE8AB314-CDD2-4600-8139-6285F46937AC}\\Stale"));
+    hive.create_key("CLSID\\{DE8AB314-CDD2-4600-8139-6285F46937AC}\\Stale"_w);
     for (const auto& s : scripts)
         ASSERT_EQ(registry::register_script(s, hive), S_OK);
     EXPECT_EQ(hive.dump(), registered);
@@ -103,14 +103,14 @@ TEST(Registrar, AFailingRegistryLeavesNothingOfTheScriptBehind)
 {
     const registry::script moniker = script_of("kor_moniker.rgs");
     memory_hive whole;
-    whole.create_key(WSTR("CLSID"));
+    whole.create_key("CLSID"_w);
     ASSERT_EQ(registry::register_script(moniker, whole), S_OK);
 
     int writes = 0;
     for (;; ++writes) {
         ASSERT_LT(writes, 1000) << "registration never finishes";
         memory_hive hive;
-        hive.create_key(WSTR("CLSID"));
+        hive.create_key("CLSID"_w);
         hive.writesBeforeFailure = writes;
         const HRESULT result = registry::register_script(moniker, hive);
         if (result == S_OK) {

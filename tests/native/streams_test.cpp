@@ -16,7 +16,8 @@ namespace {
 
 constexpr wchar canary = 0xCCCC;
 
-static_assert("a\tb"_w == wstring_view(WSTR("a\tb")), "literals are UTF-16 when compiled");
+static_assert("a\tb"_w == wstring_view(std::array<wchar, 3>{'a', '\t', 'b'}.data(), 3),
+              "literals are UTF-16 when compiled");
 static_assert("a\0b"_w.size() == 3, "a literal keeps the units it spells, NULs included");
 static_assert("a\n"_w.endsLine && !"a\n"_w.breaksInside && "a\nb"_w.breaksInside && !"a\nb"_w.endsLine,
               "a literal knows its line feeds when compiled");
