@@ -11,12 +11,9 @@
 
 #ifdef _WIN32
 using wchar = wchar_t;
-#define KORPS_WIDEN_(s) L##s
 #else
 using wchar = char16_t;
-#define KORPS_WIDEN_(s) u##s
 #endif
-#define WSTR(s) KORPS_WIDEN_(s)
 
 static_assert(sizeof(wchar) == 2, "the host's text is UTF-16");
 
