@@ -41,8 +41,7 @@ public:
             return;
         if (atLineStart_) {
             wchar* p = out_.reserve(prefix.size() + n);
-            p = std::copy(prefix.begin(), prefix.end(), p);
-            out_.commit(std::copy(s, s + n, p));
+            out_.commit(copy_units(copy_units(p, prefix), s, n));
         } else {
             out_.write(s, n);
         }

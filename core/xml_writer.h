@@ -6,6 +6,13 @@
 // inside, the end tag otherwise. An element name is a literal of the module
 // ("source"_tag), whose tags are made when the module is compiled: the start
 // tag with the line prefix before it, the end tag with a line feed after it.
+// Tabs or blanks before the name ("\told"_tag) stand between the prefix and
+// the start tag.
+//
+// The shapes the fragments are made of (a start tag and a line feed, an
+// element and its value on a line, an end tag and a line feed) each go out
+// as one item with one room check, when their run-time parts hold no line
+// feed; otherwise they take the same path piece by piece.
 //
 // Nothing is escaped: the fragments are built from known literals and from
 // payload text taken as it stands.
@@ -13,7 +20,9 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 #include "core/messages.h"
@@ -24,30 +33,39 @@ namespace output {
 
 // An element name and its two tags: "   <name>" and "</name>\n".
 struct element_name {
-    wstring_view startTag;   // the line prefix, "<", the name, ">"
-    wstring_view endTag;   // "</", the name, ">", a line feed
+    wstring_view startTag;   // the line prefix, any lead, "<", the name, ">"
+    wstring_view endTag;     // "</", the name, ">", a line feed
 };
 
 namespace detail {
 
-template <wide_literal::ascii Name>
+template <wide_literal::ascii Literal>
 struct element_tags {
     static constexpr std::size_t prefix = prefixed_lines::prefix.size();
-    static constexpr std::size_t length = std::size(Name.units) - 1;
+    static constexpr std::size_t size = std::size(Literal.units) - 1;
+    static constexpr std::size_t lead = [] {
+        std::size_t n = 0;
+        while (n < size && (Literal.units[n] == '\t' || Literal.units[n] == ' '))
+            ++n;
+        return n;
+    }();
+    static constexpr std::size_t length = size - lead;
+    static_assert(length > 0, "an element has a name");
 
     static constexpr auto start = [] {
-        std::array<wchar, prefix + length + 2> tag{};
+        std::array<wchar, prefix + size + 2> tag{};
         std::fill_n(tag.begin(), prefix, wchar(' '));
-        tag[prefix] = '<';
-        std::copy_n(Name.units, length, tag.begin() + prefix + 1);
-        tag[prefix + 1 + length] = '>';
+        std::copy_n(Literal.units, lead, tag.begin() + prefix);
+        tag[prefix + lead] = '<';
+        std::copy_n(Literal.units + lead, length, tag.begin() + prefix + lead + 1);
+        tag[prefix + size + 1] = '>';
         return tag;
     }();
     static constexpr auto end = [] {
         std::array<wchar, length + 4> tag{};
         tag[0] = '<';
         tag[1] = '/';
-        std::copy_n(Name.units, length, tag.begin() + 2);
+        std::copy_n(Literal.units + lead, length, tag.begin() + 2);
         tag[length + 2] = '>';
         tag[length + 3] = '\n';
         return tag;
@@ -91,35 +109,26 @@ public:
     // "<name", left open for attributes.
     void open_element(const element_name& name)
     {
-        if (depth_ == open_.size())
-            throw io::error(messages::elements_nested_too_deeply);
-        close_start_tag();
-        const wstring_view tag = name.startTag.substr(prefix_width);
-        lines_.write_inline(tag.data(), tag.size() - 1);
-        open_[depth_++] = &name;
+        push(name);
+        put(std::tuple{pending(), start_of(name, false)}, false, true);
         tagClosed_ = false;
     }
 
-    // "<name attribute="value"", left open, as one item when the value holds
-    // no line feed.
+    // "<name attribute="value"", left open.
     void open_element(const element_name& name, wstring_view attribute_name, wstring_view attribute_value)
     {
-        if (!line_free(attribute_value) || depth_ == open_.size()) {
+        if (!line_free(attribute_value)) {
             open_element(name);
             return attribute(attribute_name, attribute_value);
         }
-        close_start_tag();
-        const wstring_view tag = name.startTag.substr(0, name.startTag.size() - 1);
-        const wstring_view start = lines_.at_line_start() ? tag : tag.substr(prefix_width);
-        wchar* p = lines_.reserve(start.size() + attribute_name.size() + attribute_value.size() + 4);
-        p = std::copy(start.begin(), start.end(), p);
-        lines_.commit(write_attribute(p, {attribute_name, attribute_value}), false);
-        open_[depth_++] = &name;
+        push(name);
+        put(std::tuple{pending(), start_of(name, false), attribute_open(attribute_name), attribute_name, "=\""_w,
+                attribute_value, "\""_w},
+               false, true);
         tagClosed_ = false;
     }
 
-    // ` name="value"` in the open start tag, as one item when the value
-    // holds no line feed.
+    // ` name="value"` in the open start tag.
     template <class Value>
     void attribute(wstring_view name, const Value& value)
     {
@@ -128,14 +137,11 @@ public:
         const auto& text = text_of(value);
         const wstring_view units = text;
         if (!line_free(text)) {
-            lines_.write_inline(" "_w.data(), 1);
-            lines_.write_inline(name.data(), name.size());
-            lines_.write_inline("=\""_w.data(), 2);
+            put(std::tuple{" "_w, name, "=\""_w}, false);
             lines_.write(units.data(), units.size());
-            lines_.write_inline("\""_w.data(), 1);
-            return;
+            return put(std::tuple{"\""_w}, false);
         }
-        lines_.commit(write_attribute(lines_.reserve(name.size() + units.size() + 4), {name, units}), false);
+        put(std::tuple{" "_w, name, "=\""_w, units, "\""_w}, false);
     }
 
     // "/>" when nothing was written inside, else the end tag.
@@ -147,58 +153,36 @@ public:
     // `<name>` or `<name attribute="value">`, then a line feed.
     void open_line(const element_name& name)
     {
-        open_element(name);
-        write("\n"_w);
+        push(name);
+        put(std::tuple{pending(), start_of(name, true), "\n"_w}, true, true);
     }
     template <class Value>
     void open_line(const element_name& name, wstring_view attribute_name, const Value& value)
     {
-        if constexpr (std::is_convertible_v<const Value&, wstring_view>) {
-            open_element(name, attribute_name, value);
-        } else {
+        const auto& text = text_of(value);
+        const wstring_view units = text;
+        if (!line_free(text)) {
             open_element(name);
-            attribute(attribute_name, value);
+            attribute(attribute_name, units);
+            return write("\n"_w);
         }
-        write("\n"_w);
+        push(name);
+        put(std::tuple{pending(), start_of(name, false), attribute_open(attribute_name), attribute_name, "=\""_w, units,
+                "\">\n"_w},
+               true, true);
     }
 
     // <name>value</name> and a line feed; the end tag follows even when the
-    // value is empty (<name></name>, never <name/>). A value that holds no
-    // line feed goes out with its tags as one item.
+    // value is empty (<name></name>, never <name/>).
     template <class Value>
     void element_line(const element_name& name, const Value& value)
     {
-        element_line(name, {}, value);
-    }
-
-    // The same with one attribute: <name attribute="value">value</name>.
-    template <class Value>
-    void element_line(const element_name& name, wstring_view attribute_name, wstring_view attribute_value,
-                      const Value& value)
-    {
-        element_line(name, {attribute_name, attribute_value}, value);
-    }
-
-    // The rest of an element line whose start tag is open: the value, the end
-    // tag and a line feed, as one item when the value holds no line feed.
-    template <class Value>
-    void close_line_with(const Value& value)
-    {
         if constexpr (requires { text_of(value); }) {
             const auto& text = text_of(value);
-            if (line_free(text) && !tagClosed_ && depth_ > 0) {
-                const wstring_view units = text;
-                const wstring_view end = open_[--depth_]->endTag;
-                wchar* p = lines_.reserve(1 + units.size() + end.size());
-                *p++ = '>';
-                p = std::copy(units.begin(), units.end(), p);
-                lines_.commit(std::copy(end.begin(), end.end(), p), true);
-                tagClosed_ = true;
-                return;
-            }
+            if (line_free(text))
+                return put(std::tuple{pending(), start_of(name, true), wstring_view(text), name.endTag}, true, true);
         }
-        *this << value;
-        close_line();
+        element_line_with(name, [&] { *this << value; });
     }
 
     // The same with whatever `content` writes between the tags.
@@ -211,63 +195,67 @@ public:
         close_line();
     }
 
-private:
-    static constexpr std::size_t prefix_width = prefixed_lines::prefix.size();
-
-    struct attribute_text {
-        wstring_view name;   // none when empty
-        wstring_view value;
-    };
-
+    // The rest of an element line whose start tag is open: the value, the end
+    // tag and a line feed.
     template <class Value>
-    void element_line(const element_name& name, const attribute_text& attribute, const Value& value)
+    void close_line_with(const Value& value)
     {
         if constexpr (requires { text_of(value); }) {
             const auto& text = text_of(value);
-            if (line_free(text) && line_free(attribute.value))
-                return write_element_item(name, attribute, text);
+            if (line_free(text) && !tagClosed_ && depth_ > 0) {
+                put(std::tuple{">"_w, wstring_view(text), open_[--depth_]->endTag}, true);
+                tagClosed_ = true;
+                return;
+            }
         }
-        open_element(name);
-        if (!attribute.name.empty())
-            this->attribute(attribute.name, attribute.value);
-        close_start_tag();
         *this << value;
         close_line();
     }
 
-    // ">" of a start tag left open, a start tag with its attribute, the
-    // value, the end tag and its line feed: one room check for all of them.
-    void write_element_item(const element_name& name, const attribute_text& attribute, wstring_view value)
+private:
+    static constexpr std::size_t prefix_width = prefixed_lines::prefix.size();
+
+    // The pieces of one item, written with one room check, the line prefix
+    // before them when they start a line and do not carry it (`prefixed`).
+    template <class... Pieces>
+    void put(const std::tuple<Pieces...>& pieces, bool endsLine, bool prefixed = false)
     {
-        const bool pending = !tagClosed_;
-        const wstring_view start =
-            pending || !lines_.at_line_start() ? name.startTag.substr(prefix_width) : name.startTag;
-        const std::size_t attribute_units =
-            attribute.name.empty() ? 0 : attribute.name.size() + attribute.value.size() + 4;
-        wchar* p = lines_.reserve(pending + start.size() + attribute_units + value.size() + name.endTag.size());
-        if (pending)
-            *p++ = '>';
-        if (attribute_units) {
-            p = std::copy(start.begin(), start.end() - 1, p);
-            p = write_attribute(p, attribute);
-            *p++ = '>';
-        } else {
-            p = std::copy(start.begin(), start.end(), p);
-        }
-        p = std::copy(value.begin(), value.end(), p);
-        lines_.commit(std::copy(name.endTag.begin(), name.endTag.end(), p), true);
-        tagClosed_ = true;
+        const bool prefix = !prefixed && lines_.at_line_start();
+        std::apply(
+            [&](const auto&... piece) {
+                wchar* p = lines_.reserve(((prefix ? prefixed_lines::prefix.size() : 0) + ... + piece.size()));
+                if (prefix)
+                    p = copy_units(p, prefixed_lines::prefix);
+                ((p = copy_units(p, piece)), ...);
+                lines_.commit(p, endsLine);
+            },
+            pieces);
     }
 
-    static wchar* write_attribute(wchar* p, const attribute_text& attribute) noexcept
+    // ">" of a start tag left open, which the next item closes.
+    wstring_view pending() noexcept
     {
-        *p++ = ' ';
-        p = std::copy(attribute.name.begin(), attribute.name.end(), p);
-        *p++ = '=';
-        *p++ = '"';
-        p = std::copy(attribute.value.begin(), attribute.value.end(), p);
-        *p++ = '"';
-        return p;
+        const bool open = !tagClosed_;
+        tagClosed_ = true;
+        return open ? ">"_w : wstring_view();
+    }
+
+    // The start tag, with the prefix when it starts a line, and with its ">"
+    // when `closed`. Called after pending(): a start tag left open means the
+    // line has begun.
+    wstring_view start_of(const element_name& name, bool closed) const noexcept
+    {
+        const wstring_view tag = name.startTag.substr(0, name.startTag.size() - !closed);
+        return lines_.at_line_start() ? tag : tag.substr(prefix_width);
+    }
+
+    static wstring_view attribute_open(wstring_view name) noexcept { return name.empty() ? name : " "_w; }
+
+    void push(const element_name& name)
+    {
+        if (depth_ == open_.size())
+            throw io::error(messages::elements_nested_too_deeply);
+        open_[depth_++] = &name;
     }
 
     void close(bool endLine)
@@ -277,17 +265,16 @@ private:
         const element_name& name = *open_[--depth_];
         if (!tagClosed_) {
             tagClosed_ = true;
-            const wstring_view empty = endLine ? "/>\n"_w : "/>"_w;
-            lines_.write_inline(empty.data(), empty.size(), endLine);
+            put(std::tuple{endLine ? "/>\n"_w : "/>"_w}, endLine);
         } else {
-            lines_.write_inline(name.endTag.data(), name.endTag.size() - !endLine, endLine);
+            put(std::tuple{name.endTag.substr(0, name.endTag.size() - !endLine)}, endLine);
         }
     }
 
     void close_start_tag()
     {
         if (!tagClosed_) {
-            lines_.write_inline(">"_w.data(), 1);
+            put(std::tuple{">"_w}, false);
             tagClosed_ = true;
         }
     }
@@ -311,8 +298,8 @@ constexpr const output::element_name& operator""_tag()
 }
 
 template <text_sink Out>
-requires std::is_same_v<Out, output::xml> || std::is_base_of_v<output::buffer, Out> Out&
-operator<<(Out& out, const wide_literal::text& t)
+requires std::is_same_v<Out, output::xml> || std::is_base_of_v<output::buffer, Out>
+Out& operator<<(Out& out, const wide_literal::text& t)
 {
     if constexpr (std::is_same_v<Out, output::xml>)
         out.write(t);

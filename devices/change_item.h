@@ -66,8 +66,8 @@ public:
         if (!has_old && !has_new)
             return;
         out_.open_line("parameter"_tag, "id"_w, name.key);
-        write_value(has_old, "old"_tag, old_value, format);
-        write_value(has_new, "new"_tag, new_value, format);
+        write_value(has_old, "\told"_tag, old_value, format);
+        write_value(has_new, "\tnew"_tag, new_value, format);
         out_.close_line();
     }
 
@@ -77,7 +77,6 @@ private:
     {
         if (!present)
             return;
-        out_ << "\t"_w;
         out_.element_line(element, format.shown(value));
     }
 

@@ -100,8 +100,12 @@ TEST(XmlWriter, ElementLinesAreTheSameWhicheverWayTheyGoOut)
         out.element_line("a"_tag, "one"_w);
         out.element_line("b"_tag, wide("two\nlines"));
         out.open_element("c"_tag);
-        out.element_line("d"_tag, "k"_w, "v"_w, decimal(-7));
-        out.element_line("e"_tag, "k"_w, wide("v\nw"), ""_w);
+        out.open_element("d"_tag, "k"_w, "v"_w);
+        out.close_line_with(decimal(-7));
+        out.open_element("e"_tag, "k"_w, wide("v\nw"));
+        out.close_line_with(""_w);
+        out.open_line("g"_tag, "k"_w, decimal(3));
+        out.close_line();
         out.close_line();
         out.open_element("f"_tag);
         out.close_element();
@@ -110,6 +114,8 @@ TEST(XmlWriter, ElementLinesAreTheSameWhicheverWayTheyGoOut)
                    "   <b>two\n   lines</b>\n"
                    "   <c><d k=\"v\">-7</d>\n"
                    "   <e k=\"v\n   w\"></e>\n"
+                   "   <g k=\"3\">\n"
+                   "   </g>\n"
                    "   </c>\n"
                    "   <f/>");
 }
