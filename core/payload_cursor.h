@@ -4,14 +4,46 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 #include <string_view>
+#include <type_traits>
 
 #include "core/ansi_text.h"
 #include "core/errors.h"
 #include "core/wide.h"
+
+static_assert(std::endian::native == std::endian::little || std::endian::native == std::endian::big,
+              "payloads are read on little- or big-endian hosts only");
+
+// `value` with its bytes in the opposite order.
+template <class Int>
+constexpr Int swap_bytes(Int value) noexcept
+{
+    using bits = std::make_unsigned_t<Int>;
+    bits from = static_cast<bits>(value);
+    bits to = 0;
+    for (std::size_t i = 0; i < sizeof(Int); ++i) {
+        to = static_cast<bits>(to << 8 | (from & 0xFF));
+        from = static_cast<bits>(from >> 8);
+    }
+    return static_cast<Int>(to);
+}
+
+// The integer stored little-endian at `bytes`, however they are aligned: one
+// load, and a swap on a big-endian host.
+template <class Int>
+Int load_le(const std::uint8_t* bytes) noexcept
+{
+    Int value;
+    std::memcpy(&value, bytes, sizeof value);
+    if constexpr (std::endian::native == std::endian::big)
+        value = swap_bytes(value);
+    return value;
+}
 
 // A UTF-16 text read from a payload, NUL-terminated in a fixed buffer.
 class payload_text {
@@ -37,16 +69,16 @@ private:
 class payload_cursor {
 public:
     payload_cursor(const void* payload, std::size_t bytes) noexcept
-        : begin(static_cast<const std::uint8_t*>(payload)), cur(begin), end(begin + bytes)
+        : cur_(static_cast<const std::uint8_t*>(payload)), end_(cur_ + bytes)
     {}
 
-    std::size_t remaining() const noexcept { return static_cast<std::size_t>(end - cur); }
+    std::size_t remaining() const noexcept { return static_cast<std::size_t>(end_ - cur_); }
 
-    std::uint8_t read_u8() { return static_cast<std::uint8_t>(read_le(1)); }
-    std::uint16_t read_u16() { return static_cast<std::uint16_t>(read_le(2)); }
-    std::uint32_t read_u32() { return static_cast<std::uint32_t>(read_le(4)); }
+    std::uint8_t read_u8() { return read_le<std::uint8_t>(); }
+    std::uint16_t read_u16() { return read_le<std::uint16_t>(); }
+    std::uint32_t read_u32() { return read_le<std::uint32_t>(); }
     std::int32_t read_i32() { return static_cast<std::int32_t>(read_u32()); }
-    std::uint64_t read_u64() { return read_le(8); }
+    std::uint64_t read_u64() { return read_le<std::uint64_t>(); }
 
     // A u16 count N, then N UTF-16 units. N of 260 or more is refused as an
     // overflow before the bytes are even looked at.
@@ -55,8 +87,12 @@ public:
         const std::size_t count = read_count();
         const std::span<const std::uint8_t> bytes = take(2 * count);
         payload_text text;
-        for (std::size_t i = 0; i < count; ++i)
-            text.units_[i] = static_cast<wchar>(bytes[2 * i] | bytes[2 * i + 1] << 8);
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(text.units_.data(), bytes.data(), bytes.size());
+        } else {
+            for (std::size_t i = 0; i < count; ++i)
+                text.units_[i] = static_cast<wchar>(load_le<std::uint16_t>(bytes.data() + 2 * i));
+        }
         text.units_[count] = 0;
         text.size_ = count;
         return text;
@@ -75,14 +111,10 @@ public:
     {
         if (n > remaining())
             throw io::underflow();
-        const std::span<const std::uint8_t> bytes(cur, n);
-        cur += n;
+        const std::span<const std::uint8_t> bytes(cur_, n);
+        cur_ += n;
         return bytes;
     }
-
-    const std::uint8_t* begin;
-    const std::uint8_t* cur;
-    const std::uint8_t* end;
 
 private:
     std::size_t read_count()
@@ -93,12 +125,12 @@ private:
         return count;
     }
 
-    std::uint64_t read_le(std::size_t n)
+    template <class Int>
+    Int read_le()
     {
-        const std::span<const std::uint8_t> bytes = take(n);
-        std::uint64_t value = 0;
-        for (std::size_t i = n; i-- > 0;)
-            value = value << 8 | bytes[i];
-        return value;
+        return load_le<Int>(take(sizeof(Int)).data());
     }
+
+    const std::uint8_t* cur_;
+    const std::uint8_t* end_;
 };

@@ -1,5 +1,7 @@
 #include "events/alarm_events.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstring>
 #include <span>
 #include <string_view>
@@ -31,24 +33,65 @@ alarm_status_change read_alarm_status_change(payload_cursor& in)
     return {ansi_text(alarm_types::name_of(id)), alarm_status(from), alarm_status(to)};
 }
 
+// The walk below relies on every group's bits standing in ascending order,
+// each within the 64 bits loaded from the group's first byte: the walk then
+// goes from changed bit to changed bit, lowest first, in table order.
+consteval bool ascending_within_a_word(std::span<const alarm_bit> bits)
+{
+    for (std::size_t i = 0; i < bits.size(); ++i)
+        if (bits[i].bit < 0 || bits[i].bit >= 64 || (i > 0 && bits[i].bit <= bits[i - 1].bit))
+            return false;
+    return true;
+}
+
+consteval bool all_ascending_within_a_word()
+{
+    for (const alarm_layout& layout : alarm_layouts::rows) {
+        for (const alarm_group& group : layout.groups)
+            if (!ascending_within_a_word(group.bits))
+                return false;
+        if (!ascending_within_a_word(layout.demodulator))
+            return false;
+    }
+    return true;
+}
+static_assert(all_ascending_within_a_word());
+
 // Hands every changed bit of the record's named alarms to `out`, group by
 // group, then slot by slot for each demodulator whose bytes changed at all.
+//
+// A group goes from changed bit to changed bit, lowest first, which is table
+// order. Its bits ascend, so row i names bit i or a higher one: the row of a
+// changed bit b stands at position b at most, and below it only by as many
+// rows as the table has gaps, which for most tables is none.
 template <class Listing>
 void list_changed_alarms(const unit_alarm_record& record, const alarm_layout& layout, Listing& out)
 {
-    const auto list_group = [&](std::span<const alarm_bit> bits, std::uint32_t offset) {
-        for (const alarm_bit& b : bits)
-            if (record.changed(offset, b.bit))
-                out.alarm(b.name, record.raised(offset, b.bit));
+    const auto list_group = [&](std::span<const alarm_bit> bits, std::uint32_t offset, std::uint64_t changes) {
+        if (bits.empty())
+            return;
+        const std::uint64_t raised = record.raised_from(offset);
+        changes &= ~std::uint64_t(0) >> (63 - bits.back().bit);   // none past the last row
+        for (; changes != 0; changes &= changes - 1) {
+            const int bit = std::countr_zero(changes);
+            std::size_t row = std::min(static_cast<std::size_t>(bit), bits.size() - 1);
+            while (row > 0 && bits[row].bit > bit)
+                --row;
+            if (bits[row].bit == bit)
+                out.alarm(bits[row].name, (raised >> bit & 1) != 0);
+        }
     };
     for (const alarm_group& group : layout.groups)
-        list_group(group.bits, group.offset);
+        if (const std::uint64_t changes = record.changes_from(group.offset))
+            list_group(group.bits, group.offset, changes);
+    constexpr std::uint64_t slot_bits = (std::uint64_t(1) << 8 * alarm_layout::slot_bytes) - 1;
     for (std::uint32_t slot = 0; slot < layout.demodulators; ++slot) {
         const std::uint32_t offset = alarm_layout::slot_offset(slot);
-        if (!record.bytes_changed(offset, alarm_layout::slot_bytes))
+        const std::uint64_t changes = record.changes_from(offset);
+        if ((changes & slot_bits) == 0)
             continue;
         out.open_device(slot + 1);
-        list_group(layout.demodulator, offset);
+        list_group(layout.demodulator, offset, changes);
         out.close_device();
     }
 }

@@ -7,6 +7,14 @@
 
 namespace {
 
+// Only a big-endian host swaps the bytes it loads; no host the tests run on
+// does, so the swap is checked here.
+static_assert(swap_bytes(std::uint8_t{0xAB}) == 0xAB);
+static_assert(swap_bytes(std::uint16_t{0x1234}) == 0x3412);
+static_assert(swap_bytes(std::uint32_t{0x12345678}) == 0x78563412);
+static_assert(swap_bytes(std::uint64_t{0x0102030405060708}) == 0x0807060504030201);
+static_assert(swap_bytes(std::int32_t{-2}) == std::int32_t{-16777217});   // FFFFFFFE, FEFFFFFF
+
 std::vector<std::uint8_t> counted_text(std::size_t count, std::size_t units_present)
 {
     std::vector<std::uint8_t> bytes{static_cast<std::uint8_t>(count), static_cast<std::uint8_t>(count >> 8)};
