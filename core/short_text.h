@@ -22,12 +22,12 @@ struct short_text {
     operator wstring_view() const noexcept { return view(); }
 
     // Puts `s` before what the text holds; there must be room.
-    constexpr void prepend(wstring_view s) noexcept
+    void prepend(wstring_view s) noexcept
     {
         first -= s.size();
         std::copy(s.begin(), s.end(), units + first);
     }
-    constexpr void prepend(wchar unit) noexcept { units[--first] = unit; }
+    void prepend(wchar unit) noexcept { units[--first] = unit; }
 };
 
 template <std::size_t N>

@@ -3,7 +3,9 @@
 // digits without allocating.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <type_traits>
 
@@ -57,15 +59,39 @@ inline short_text<2> text_of(hex_byte h) noexcept
     return {{digits::hex[h.value >> 4], digits::hex[h.value & 0xF]}, 0};
 }
 
-inline short_text<15> text_of(dotted_ipv4 ip) noexcept
+namespace digits {
+
+// The 256 values of a byte in decimal, each right-aligned in four units.
+struct octet {
+    wchar units[4];
+    std::size_t length;
+};
+
+inline constexpr std::array<octet, 256> octets = [] {
+    std::array<octet, 256> all{};
+    for (unsigned value = 0; value < 256; ++value) {
+        octet& o = all[value];
+        wchar* const begin = decimal_before(o.units + 4, value);
+        o.length = static_cast<std::size_t>(o.units + 4 - begin);
+    }
+    return all;
+}();
+
+}   // namespace digits
+
+inline short_text<16> text_of(dotted_ipv4 ip) noexcept
 {
-    // Built back to front: four numbers of up to three digits and their dots.
-    short_text<15> text;
-    wchar* p = text.units + 15;
+    // Built back to front from the table of bytes: each byte's four units go
+    // in whole, and what lies in front of its digits is written over by the
+    // dot and the byte before it (the array has room for the first's).
+    short_text<16> text;
+    wchar* p = text.units + 16;
     for (int shift = 0; shift < 32; shift += 8) {
         if (shift)
             *--p = '.';
-        p = digits::decimal_before(p, ip.address >> shift & 0xFF);
+        const digits::octet& byte = digits::octets[ip.address >> shift & 0xFF];
+        std::memcpy(p - 4, byte.units, sizeof byte.units);
+        p -= byte.length;
     }
     text.first = static_cast<std::size_t>(p - text.units);
     return text;

@@ -5,6 +5,8 @@
 // stay lower case and no two rows share a code or a key.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <iterator>
 
@@ -43,8 +45,26 @@ static_assert(std::size(DeviceTypeKeys) == 29, "one row per known device type");
 static_assert(values_unique(DeviceTypeKeys), "one row per code");
 static_assert(texts_unique_lower_case(DeviceTypeKeys), "keys are display-name type words");
 
+// The keys indexed by code, every other code "(invalid)": an event names its
+// unit's type on every rendering, so the lookup is one load.
+inline constexpr auto device_type_names_by_code = [] {
+    std::array<wstring_view, 256> names;
+    names.fill(invalid_option_text);
+    for (const OptionEntry& row : DeviceTypeKeys)
+        names[row.value] = option_text(row);
+    return names;
+}();
+
+// The longest key, or "(invalid)".
+inline constexpr std::size_t max_device_type_name = [] {
+    std::size_t longest = 0;
+    for (const wstring_view name : device_type_names_by_code)
+        longest = std::max(longest, name.size());
+    return longest;
+}();
+
 // The key of an event's device type byte, or "(invalid)" for a code we do not know.
 constexpr wstring_view device_type_name(std::uint8_t type) noexcept
 {
-    return lookup_option(DeviceTypeKeys, type);
+    return device_type_names_by_code[type];
 }

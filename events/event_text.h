@@ -17,10 +17,19 @@ struct designation {
     std::uint32_t address;
 };
 
+inline short_text<max_device_type_name + 1 + 16> text_of(designation unit) noexcept
+{
+    short_text<max_device_type_name + 1 + 16> text;
+    text.prepend(text_of(dotted_ipv4{unit.address}).view());
+    text.prepend(wchar('-'));
+    text.prepend(device_type_name(unit.type));
+    return text;
+}
+
 template <text_sink Out>
 Out& operator<<(Out& out, designation unit)
 {
-    return out << device_type_name(unit.type) << "-"_w << dotted_ipv4{unit.address};
+    return out << text_of(unit);
 }
 
 // A designation as payloads carry it: the type byte, then the address.
