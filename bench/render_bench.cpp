@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <map>
+#include <vector>
 #include <string>
 
 #include "bench/allocation_counter.h"
@@ -195,6 +196,11 @@ void summarise(const capture& c)
     std::uint64_t most_allocations = 0;
     std::map<std::string, std::pair<double, double>> per_family;   // ns ours, ns floor (sums)
     std::map<std::string, int> counts;
+    struct sample_ratio {
+        double ratio, ours, floor;
+        const rendering* r;
+    };
+    std::vector<sample_ratio> ratios;
     for (const rendering& r : renderings) {
         const double ours = best_ns([&] {
             benchmark::DoNotOptimize(r.run(buffer.data(), capacity));
@@ -209,6 +215,7 @@ void summarise(const capture& c)
         most_allocations = std::max(most_allocations, allocations::count() - before);
         sums& s = r.text ? text : xml;
         const double ratio = ours / floor;
+        ratios.push_back({ratio, ours, floor, &r});
         s.log += std::log(ratio);
         ++s.n;
         if (ratio > s.worst) {
@@ -227,6 +234,12 @@ void summarise(const capture& c)
     for (const auto& [form, s] : {std::pair{"text", &text}, std::pair{"xml", &xml}})
         std::printf("  %-4s geometric mean %.2fx over %d samples; worst %.2fx (%s)\n", form,
                     std::exp(s->log / std::max(1, s->n)), s->n, s->worst, s->worst_name.c_str());
+
+    std::sort(ratios.begin(), ratios.end(), [](const auto& a, const auto& b) { return a.ratio > b.ratio; });
+    std::printf("  the ten highest ratios:\n");
+    for (std::size_t i = 0; i < std::min<std::size_t>(10, ratios.size()); ++i)
+        std::printf("    %6.2fx  %5.1f ns / %4.1f ns  %-4s %s\n", ratios[i].ratio, ratios[i].ours, ratios[i].floor,
+                    ratios[i].r->text ? "text" : "xml", ratios[i].r->sample->name.c_str());
 
     std::printf("\nAgainst {fmt} (the same text; ns per rendering)\n");
     for (const fmt_peers::peer& p : fmt_peers::all()) {

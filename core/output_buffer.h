@@ -114,12 +114,12 @@ public:
     }
 
     // Room for the `n` units of one item, checked once; the item is written
-    // from the returned position and ends with `commit`. `n` is at most
-    // counting_scratch - 1.
+    // from the returned position and ends with `commit`. The counting form
+    // takes at most counting_scratch - 1 units at once.
     wchar* reserve(std::size_t n)
     {
-        if (n >= avail()) [[unlikely]]
-            make_room(n);
+        if (n >= avail() && !make_room(n)) [[unlikely]]
+            throw io::overflow();
         return cur_;
     }
     void commit(wchar* end) noexcept { cur_ = end; }

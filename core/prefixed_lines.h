@@ -58,13 +58,13 @@ public:
 
     // For an item written at once: whether it starts a line (and so carries
     // the prefix), the room for it, and its end.
-    bool at_line_start() const noexcept { return atLineStart_; }
     wchar* reserve(std::size_t n) { return out_.reserve(n); }
     void commit(wchar* end, bool endsLine) noexcept
     {
         out_.commit(end);
         atLineStart_ = endsLine;
     }
+    bool at_line_start() const noexcept { return atLineStart_; }
 
     std::size_t size() const noexcept { return out_.size(); }
     wstring_view view() const noexcept { return out_.view(); }

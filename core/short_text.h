@@ -19,6 +19,8 @@ struct short_text {
     std::size_t first = N;   // the text is units[first] to the end
 
     wstring_view view() const noexcept { return {units + first, N - first}; }
+    const wchar* data() const noexcept { return units + first; }
+    std::size_t size() const noexcept { return N - first; }
     operator wstring_view() const noexcept { return view(); }
 
     // Puts `s` before what the text holds; there must be room.
