@@ -20,7 +20,6 @@
 
 #include <algorithm>
 #include <array>
-#include <tuple>
 #include <cstddef>
 #include <type_traits>
 #include <utility>
@@ -34,7 +33,7 @@ namespace output {
 // An element name and its two tags: "   <name>" and "</name>\n".
 struct element_name {
     wstring_view startTag;   // the line prefix, any lead, "<", the name, ">"
-    wstring_view endTag;     // "</", the name, ">", a line feed
+    wstring_view endTag;   // "</", the name, ">", a line feed
 };
 
 namespace detail {
@@ -106,15 +105,13 @@ public:
     std::size_t size() const noexcept { return lines_.size(); }
     wstring_view view() const noexcept { return lines_.view(); }
 
-    // "<name", left open for attributes.
+    // "<name", or "<name attribute="value"", left open for attributes.
     void open_element(const element_name& name)
     {
         push(name);
-        put(std::tuple{pending(), start_of(name, false)}, false, true);
+        put(false, true, pending(), start_of(name, false));
         tagClosed_ = false;
     }
-
-    // "<name attribute="value"", left open.
     void open_element(const element_name& name, wstring_view attribute_name, wstring_view attribute_value)
     {
         if (!line_free(attribute_value)) {
@@ -122,9 +119,7 @@ public:
             return attribute(attribute_name, attribute_value);
         }
         push(name);
-        put(std::tuple{pending(), start_of(name, false), attribute_open(attribute_name), attribute_name, "=\""_w,
-                attribute_value, "\""_w},
-               false, true);
+        put(false, true, pending(), start_of(name, false), " "_w, attribute_name, "=\""_w, attribute_value, "\""_w);
         tagClosed_ = false;
     }
 
@@ -135,13 +130,11 @@ public:
         if (tagClosed_)
             throw io::error(messages::unexpected_attribute);
         const auto& text = text_of(value);
-        const wstring_view units = text;
-        if (!line_free(text)) {
-            put(std::tuple{" "_w, name, "=\""_w}, false);
-            lines_.write(units.data(), units.size());
-            return put(std::tuple{"\""_w}, false);
-        }
-        put(std::tuple{" "_w, name, "=\""_w, units, "\""_w}, false);
+        if (line_free(text))
+            return put(false, false, " "_w, name, "=\""_w, wstring_view(text), "\""_w);
+        put(false, false, " "_w, name, "=\""_w);
+        lines_.write(text.data(), text.size());
+        put(false, false, "\""_w);
     }
 
     // "/>" when nothing was written inside, else the end tag.
@@ -154,22 +147,19 @@ public:
     void open_line(const element_name& name)
     {
         push(name);
-        put(std::tuple{pending(), start_of(name, true), "\n"_w}, true, true);
+        put(true, true, pending(), start_of(name, true), "\n"_w);
     }
     template <class Value>
     void open_line(const element_name& name, wstring_view attribute_name, const Value& value)
     {
         const auto& text = text_of(value);
-        const wstring_view units = text;
         if (!line_free(text)) {
-            open_element(name);
-            attribute(attribute_name, units);
+            open_element(name, attribute_name, text);
             return write("\n"_w);
         }
         push(name);
-        put(std::tuple{pending(), start_of(name, false), attribute_open(attribute_name), attribute_name, "=\""_w, units,
-                "\">\n"_w},
-               true, true);
+        put(true, true, pending(), start_of(name, false), " "_w, attribute_name, "=\""_w, wstring_view(text),
+            "\">\n"_w);
     }
 
     // <name>value</name> and a line feed; the end tag follows even when the
@@ -180,18 +170,11 @@ public:
         if constexpr (requires { text_of(value); }) {
             const auto& text = text_of(value);
             if (line_free(text))
-                return put(std::tuple{pending(), start_of(name, true), wstring_view(text), name.endTag}, true, true);
+                return put(true, true, pending(), start_of(name, true), wstring_view(text), name.endTag);
         }
-        element_line_with(name, [&] { *this << value; });
-    }
-
-    // The same with whatever `content` writes between the tags.
-    template <class Content>
-    void element_line_with(const element_name& name, Content&& content)
-    {
         open_element(name);
         close_start_tag();
-        content();
+        *this << value;
         close_line();
     }
 
@@ -203,7 +186,7 @@ public:
         if constexpr (requires { text_of(value); }) {
             const auto& text = text_of(value);
             if (line_free(text) && !tagClosed_ && depth_ > 0) {
-                put(std::tuple{">"_w, wstring_view(text), open_[--depth_]->endTag}, true);
+                put(true, false, ">"_w, wstring_view(text), open_[--depth_]->endTag);
                 tagClosed_ = true;
                 return;
             }
@@ -217,19 +200,17 @@ private:
 
     // The pieces of one item, written with one room check, the line prefix
     // before them when they start a line and do not carry it (`prefixed`).
+    // Always in line, so that a literal piece's length is a constant there
+    // and its copy a few moves.
     template <class... Pieces>
-    void put(const std::tuple<Pieces...>& pieces, bool endsLine, bool prefixed = false)
+    [[gnu::always_inline]] void put(bool endsLine, bool prefixed, const Pieces&... pieces)
     {
         const bool prefix = !prefixed && lines_.at_line_start();
-        std::apply(
-            [&](const auto&... piece) {
-                wchar* p = lines_.reserve(((prefix ? prefixed_lines::prefix.size() : 0) + ... + piece.size()));
-                if (prefix)
-                    p = copy_units(p, prefixed_lines::prefix);
-                ((p = copy_units(p, piece)), ...);
-                lines_.commit(p, endsLine);
-            },
-            pieces);
+        wchar* p = lines_.reserve(((prefix ? prefixed_lines::prefix.size() : 0) + ... + pieces.size()));
+        if (prefix)
+            p = copy_units(p, prefixed_lines::prefix);
+        ((p = copy_units(p, pieces.data(), pieces.size())), ...);
+        lines_.commit(p, endsLine);
     }
 
     // ">" of a start tag left open, which the next item closes.
@@ -249,8 +230,6 @@ private:
         return lines_.at_line_start() ? tag : tag.substr(prefix_width);
     }
 
-    static wstring_view attribute_open(wstring_view name) noexcept { return name.empty() ? name : " "_w; }
-
     void push(const element_name& name)
     {
         if (depth_ == open_.size())
@@ -265,16 +244,16 @@ private:
         const element_name& name = *open_[--depth_];
         if (!tagClosed_) {
             tagClosed_ = true;
-            put(std::tuple{endLine ? "/>\n"_w : "/>"_w}, endLine);
+            put(endLine, false, endLine ? "/>\n"_w : "/>"_w);
         } else {
-            put(std::tuple{name.endTag.substr(0, name.endTag.size() - !endLine)}, endLine);
+            put(endLine, false, name.endTag.substr(0, name.endTag.size() - !endLine));
         }
     }
 
     void close_start_tag()
     {
         if (!tagClosed_) {
-            put(std::tuple{">"_w}, false);
+            put(false, false, ">"_w);
             tagClosed_ = true;
         }
     }
@@ -284,7 +263,7 @@ private:
     // attributes may follow.
     bool tagClosed_ = true;
     // The open elements; no fragment nests deeper than this.
-    std::array<const element_name*, 16> open_{};
+    std::array<const element_name*, 16> open_;   // the first depth_ are set
     std::size_t depth_ = 0;
 };
 
@@ -298,8 +277,8 @@ constexpr const output::element_name& operator""_tag()
 }
 
 template <text_sink Out>
-requires std::is_same_v<Out, output::xml> || std::is_base_of_v<output::buffer, Out>
-Out& operator<<(Out& out, const wide_literal::text& t)
+requires std::is_same_v<Out, output::xml> || std::is_base_of_v<output::buffer, Out> Out&
+operator<<(Out& out, const wide_literal::text& t)
 {
     if constexpr (std::is_same_v<Out, output::xml>)
         out.write(t);
