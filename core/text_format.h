@@ -79,13 +79,13 @@ inline constexpr std::array<octet, 256> octets = [] {
 
 }   // namespace digits
 
-inline short_text<16> text_of(dotted_ipv4 ip) noexcept
+// An address built back to front from the table of bytes, ending just
+// before `end`; returns where it starts. Each byte's four units go in whole,
+// and what lies in front of its digits is written over by the dot and the
+// byte before it: up to three units before the start are written too.
+inline wchar* dotted_before(wchar* end, dotted_ipv4 ip) noexcept
 {
-    // Built back to front from the table of bytes: each byte's four units go
-    // in whole, and what lies in front of its digits is written over by the
-    // dot and the byte before it (the array has room for the first's).
-    short_text<16> text;
-    wchar* p = text.units + 16;
+    wchar* p = end;
     for (int shift = 0; shift < 32; shift += 8) {
         if (shift)
             *--p = '.';
@@ -93,7 +93,13 @@ inline short_text<16> text_of(dotted_ipv4 ip) noexcept
         std::memcpy(p - 4, byte.units, sizeof byte.units);
         p -= byte.length;
     }
-    text.first = static_cast<std::size_t>(p - text.units);
+    return p;
+}
+
+inline short_text<16> text_of(dotted_ipv4 ip) noexcept
+{
+    short_text<16> text;   // 15 units, and one more for the first byte's lead
+    text.first = static_cast<std::size_t>(dotted_before(text.units + 16, ip) - text.units);
     return text;
 }
 

@@ -20,7 +20,7 @@ struct designation {
 inline short_text<max_device_type_name + 1 + 16> text_of(designation unit) noexcept
 {
     short_text<max_device_type_name + 1 + 16> text;
-    text.prepend(text_of(dotted_ipv4{unit.address}).view());
+    text.first = static_cast<std::size_t>(dotted_before(std::end(text.units), dotted_ipv4{unit.address}) - text.units);
     text.prepend(wchar('-'));
     text.prepend(device_type_name(unit.type));
     return text;
