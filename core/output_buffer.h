@@ -48,9 +48,11 @@ inline constexpr std::size_t counting_scratch = 2048;
 //
 // (g++ sees the long branch inlined for a short source array whose length it
 // cannot bound, and warns of a read past it that the length rules out.)
+#if defined(__GNUC__) && !defined(__clang__)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Warray-bounds"
 #pragma GCC diagnostic ignored "-Wstringop-overread"
+#endif
 inline wchar* copy_units(wchar* to, const wchar* from, std::size_t n) noexcept
 {
     if (__builtin_constant_p(n) || n > 32) {
@@ -68,7 +70,9 @@ inline wchar* copy_units(wchar* to, const wchar* from, std::size_t n) noexcept
         *to++ = *from;
     return to;
 }
+#if defined(__GNUC__) && !defined(__clang__)
 #pragma GCC diagnostic pop
+#endif
 
 inline wchar* copy_units(wchar* to, wstring_view from) noexcept
 {
