@@ -20,7 +20,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstring>
 #include <span>
 #include <string>
 #include <string_view>
@@ -41,38 +40,12 @@ inline constexpr counting_t counting{};
 // rendering reserves at once.
 inline constexpr std::size_t counting_scratch = 2048;
 
-// Copies `n` units and returns the end. The pieces of a rendering are mostly
-// a few units long, where a call to memcpy costs more than the copy: they are
-// moved four units at a time in line, and only long runs go to memcpy (and
-// runs whose length the compiler knows, which it copies in line itself).
-//
-// (g++ sees the long branch inlined for a short source array whose length it
-// cannot bound, and warns of a read past it that the length rules out.)
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Warray-bounds"
-#pragma GCC diagnostic ignored "-Wstringop-overread"
-#endif
+// Copies `n` units and returns the end.
 inline wchar* copy_units(wchar* to, const wchar* from, std::size_t n) noexcept
 {
-    if (__builtin_constant_p(n) || n > 32) {
-        std::memcpy(to, from, n * sizeof(wchar));
-        return to + n;
-    }
-    for (; n >= 4; n -= 4, to += 4, from += 4)
-        std::memcpy(to, from, 4 * sizeof(wchar));
-    if (n & 2) {
-        std::memcpy(to, from, 2 * sizeof(wchar));
-        to += 2;
-        from += 2;
-    }
-    if (n & 1)
-        *to++ = *from;
-    return to;
+    std::char_traits<wchar>::copy(to, from, n);
+    return to + n;
 }
-#if defined(__GNUC__) && !defined(__clang__)
-#pragma GCC diagnostic pop
-#endif
 
 inline wchar* copy_units(wchar* to, wstring_view from) noexcept
 {
