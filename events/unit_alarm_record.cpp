@@ -16,11 +16,12 @@ unit_alarm_record unit_alarm_record::read(payload_cursor& in)
         throw io::underflow();
     // The old mask, then the new.
     const std::uint8_t* const masks = in.take(2 * std::size_t(record.maskLength)).data();
-    std::memcpy(record.flips.data(), masks, record.maskLength);
-    std::memcpy(record.newMask.data(), masks + record.maskLength, record.maskLength);
-    // Over the full capacity, a fixed count the compiler turns into a few
-    // wide XORs: the bytes past the masks are clear in both.
-    for (std::size_t i = 0; i < mask_capacity; ++i)
-        record.flips[i] ^= record.newMask[i];
+    const std::uint8_t* const new_mask = masks + record.maskLength;
+    // Byte by byte over the mask alone: the bytes past it stay clear in both,
+    // and a short mask costs a few stores.
+    for (std::size_t i = 0; i < record.maskLength; ++i) {
+        record.newMask[i] = new_mask[i];
+        record.flips[i] = masks[i] ^ new_mask[i];
+    }
     return record;
 }
