@@ -13,18 +13,25 @@ namespace platform {
 void widen_ansi(const char* text, std::size_t n, wchar* out) noexcept
 {
     // Plain ASCII is the same in every ANSI code page; only the rest needs
-    // the system's converter.
+    // the system's converter. All of it is widened in one pass the compiler
+    // can vectorise (the two never overlap), and the converter takes over
+    // from the first byte that is not ASCII, if any came.
+    const auto* __restrict bytes = reinterpret_cast<const unsigned char*>(text);
+    wchar* __restrict units = out;
+    unsigned char high = 0;
+    for (std::size_t k = 0; k < n; ++k) {
+        units[k] = bytes[k];
+        high |= bytes[k];
+    }
+    if (high < 0x80)
+        return;
     std::size_t i = 0;
-    while (i < n && static_cast<unsigned char>(text[i]) < 0x80) {
-        out[i] = static_cast<wchar>(text[i]);
+    while (bytes[i] < 0x80)
         ++i;
-    }
-    if (i < n) {
-        const int done =
-            MultiByteToWideChar(CP_ACP, 0, text + i, static_cast<int>(n - i), out + i, static_cast<int>(n - i));
-        for (std::size_t k = i + (done > 0 ? static_cast<std::size_t>(done) : 0); k < n; ++k)
-            out[k] = L'?';
-    }
+    const int done =
+        MultiByteToWideChar(CP_ACP, 0, text + i, static_cast<int>(n - i), out + i, static_cast<int>(n - i));
+    for (std::size_t k = i + (done > 0 ? static_cast<std::size_t>(done) : 0); k < n; ++k)
+        out[k] = L'?';
 }
 
 std::size_t utf8_to_utf16(std::string_view text, wchar* out, std::size_t size) noexcept
