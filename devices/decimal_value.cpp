@@ -116,12 +116,17 @@ decimal_value decimal_value::divided_by_ten_to(unsigned exponent) const
 
 decimal_value::text decimal_value::digits() const noexcept
 {
+    text t;
+    t.first = static_cast<std::size_t>(digits_before(t.units + max_digits) - t.units);
+    return t;
+}
+
+wchar* decimal_value::digits_before(wchar* const end) const noexcept
+{
     // Built from the right: the significant fractional digits, the point,
     // the integer part, the sign. One division splits the digits at the
     // point; past the table's last power (10^19) a mantissa, below 10^18, is
     // all fraction.
-    text t;
-    wchar* const end = t.units + max_digits;
     const std::uint64_t m = magnitude();
     const bool split = places() < tens::power.size();
     const std::uint64_t whole = split ? m / tens::power[places()] : 0;
@@ -139,6 +144,5 @@ decimal_value::text decimal_value::digits() const noexcept
     p = digits::decimal_before(p, whole);
     if (mantissa() < 0)
         *--p = '-';
-    t.first = static_cast<std::size_t>(p - t.units);
-    return t;
+    return p;
 }

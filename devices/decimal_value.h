@@ -80,6 +80,10 @@ public:
     using text = short_text<max_digits>;
     text digits() const noexcept;
 
+    // The same digits ending just before `end`, with room for max_digits
+    // before it; returns where they start.
+    wchar* digits_before(wchar* end) const noexcept;
+
 private:
     constexpr explicit decimal_value(std::uint64_t bits) noexcept : bits_(bits) {}
 

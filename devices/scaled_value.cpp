@@ -23,11 +23,11 @@ unit_amount in_unit(const scaled_value& scaled)
 
 scaled_text text_of(const scaled_value& scaled) noexcept
 {
+    // The unit at the end, the blank, and the number made in place before it.
     const unit_amount converted = in_unit(scaled);
-    const decimal_value::text number = converted.amount.digits();
     scaled_text text;
     text.prepend(wstring_view(converted.unit.wide));
     text.prepend(wchar(' '));
-    text.prepend(number.view());
+    text.first = static_cast<std::size_t>(converted.amount.digits_before(text.units + text.first) - text.units);
     return text;
 }
