@@ -222,8 +222,8 @@ private:
     }
 
     // The start tag, with the prefix when it starts a line, and with its ">"
-    // when `closed`. Called after pending(): a start tag left open means the
-    // line has begun.
+    // when `closed`. (A start tag left open means the line has begun, so the
+    // prefix never goes with a pending ">".)
     wstring_view start_of(const element_name& name, bool closed) const noexcept
     {
         const wstring_view tag = name.startTag.substr(0, name.startTag.size() - !closed);
