@@ -90,6 +90,16 @@ public:
         cur_ += n;
     }
 
+    // The pieces of one item (views, literals, short texts), with one room
+    // check for all of them.
+    template <class... Pieces>
+    [[gnu::always_inline]] void put(const Pieces&... pieces)
+    {
+        wchar* p = reserve((std::size_t(0) + ... + pieces.size()));
+        ((p = copy_units(p, pieces.data(), pieces.size())), ...);
+        cur_ = p;
+    }
+
     // Room for the `n` units of one item, checked once; the item is written
     // from the returned position and ends with `commit`. The counting form
     // takes at most counting_scratch - 1 units at once.

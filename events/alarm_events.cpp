@@ -110,10 +110,10 @@ public:
         continued_ = true;
     }
 
+    // Each phrase, its separator included, is one item.
     void alarm(wstring_view name, bool raised)
     {
-        separate();
-        out_ << name << (raised ? " alarmed"_w : " alarm cleared"_w);
+        out_.put(continued_ ? ", "_w : wstring_view(), name, raised ? " alarmed"_w : " alarm cleared"_w);
         if (raised)
             ++alarms_;
         continued_ = true;
@@ -122,8 +122,7 @@ public:
     // A slot's alarms follow its number directly, without a comma.
     void open_device(std::uint32_t number)
     {
-        separate();
-        out_ << "Device "_w << decimal(number) << ": "_w;
+        out_.put(continued_ ? ", "_w : wstring_view(), "Device "_w, text_of(decimal(number)), ": "_w);
         continued_ = false;
     }
 
@@ -134,12 +133,6 @@ public:
     render::colour colour() const noexcept { return alarms_ == 0 ? render::colours::green : render::colours::red; }
 
 private:
-    void separate()
-    {
-        if (continued_)
-            out_ << ", "_w;
-    }
-
     output::text& out_;
     bool continued_ = false;
     unsigned alarms_ = 0;
