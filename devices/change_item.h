@@ -25,29 +25,23 @@ class text_change_list {
 public:
     explicit text_change_list(output::text& out) noexcept : out_(out) {}
 
+    // The whole phrase, its separator included, is one item.
     template <class Value, class Format>
     void add(const change_name& name, bool has_old, const Value& old_value, bool has_new, const Value& new_value,
              const Format& format)
     {
         if (!has_old && !has_new)
             return;
-        if (!first_)
-            out_ << ", "_w;
-        out_ << name.display << " was changed"_w;
-        write_value(has_old, " from "_w, old_value, format);
-        write_value(has_new, " to "_w, new_value, format);
+        using text = decltype(format.shown(old_value));
+        const text old_text = has_old ? format.shown(old_value) : text();
+        const text new_text = has_new ? format.shown(new_value) : text();
+        out_.put(first_ ? wstring_view() : ", "_w, name.display, " was changed"_w,
+                 has_old ? " from "_w : wstring_view(), wstring_view(old_text), has_new ? " to "_w : wstring_view(),
+                 wstring_view(new_text));
         first_ = false;
     }
 
 private:
-    template <class Value, class Format>
-    void write_value(bool present, wstring_view before, const Value& value, const Format& format)
-    {
-        if (!present)
-            return;
-        out_ << before << format.shown(value);
-    }
-
     output::text& out_;
     bool first_ = true;
 };
