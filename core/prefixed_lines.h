@@ -39,12 +39,10 @@ public:
     {
         if (n == 0)
             return;
-        if (atLineStart_) {
-            wchar* p = out_.reserve(prefix.size() + n);
-            out_.commit(copy_units(copy_units(p, prefix), s, n));
-        } else {
+        if (atLineStart_)
+            out_.put(prefix, wstring_view(s, n));
+        else
             out_.write(s, n);
-        }
         atLineStart_ = endsLine;
     }
 
