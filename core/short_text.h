@@ -48,6 +48,17 @@ inline wstring_view text_of(wstring_view text) noexcept
     return text;
 }
 
+// A literal of the module knows its line feeds: nothing to scan.
+constexpr bool line_free(const wide_literal::text& text) noexcept
+{
+    return !text.endsLine && !text.breaksInside;
+}
+
+constexpr const wide_literal::text& text_of(const wide_literal::text& text) noexcept
+{
+    return text;
+}
+
 template <std::size_t N>
 const short_text<N>& text_of(const short_text<N>& text) noexcept
 {

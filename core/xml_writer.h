@@ -112,14 +112,16 @@ public:
         put(false, true, pending(), start_of(name, false));
         tagClosed_ = false;
     }
-    void open_element(const element_name& name, wstring_view attribute_name, wstring_view attribute_value)
+    template <class Value>
+    void open_element(const element_name& name, wstring_view attribute_name, const Value& attribute_value)
     {
-        if (!line_free(attribute_value)) {
+        const auto& text = text_of(attribute_value);
+        if (!line_free(text)) {
             open_element(name);
-            return attribute(attribute_name, attribute_value);
+            return attribute(attribute_name, text);
         }
         push(name);
-        put(false, true, pending(), start_of(name, false), " "_w, attribute_name, "=\""_w, attribute_value, "\""_w);
+        put(false, true, pending(), start_of(name, false), " "_w, attribute_name, "=\""_w, wstring_view(text), "\""_w);
         tagClosed_ = false;
     }
 

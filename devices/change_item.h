@@ -14,7 +14,7 @@
 // The two names of a parameter: the key is the XML `id`, the display name
 // what the text shows.
 struct change_name {
-    wstring_view key;
+    wide_literal::text key;
     wstring_view display;
 };
 

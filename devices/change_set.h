@@ -24,7 +24,7 @@ enum class body : std::uint8_t {
 };
 
 struct section {
-    wstring_view field;   // the `field` attribute, as the event spells it
+    wide_literal::text field;   // the `field` attribute, as the event spells it
     body kind;
 };
 

@@ -54,7 +54,7 @@ constexpr slot demod(std::uint8_t group)
 }
 
 struct field {
-    wstring_view key;   // XML `id`
+    wide_literal::text key;   // XML `id`
     wstring_view display;   // text form
     value kind;
     std::span<const OptionEntry> demod_value_tables::*table = nullptr;   // for `option`
@@ -68,18 +68,18 @@ using tables = demod_value_tables;
 // Scaled readings that go below zero on the wire.
 inline constexpr bool signed_reading = true;
 
-constexpr field opt(wstring_view key, wstring_view display, std::span<const OptionEntry> tables::*table,
+constexpr field opt(wide_literal::text key, wstring_view display, std::span<const OptionEntry> tables::*table,
                     std::array<slot, layouts> at)
 {
     return {key, display, value::option, table, {}, false, at};
 }
 
-constexpr field plain(wstring_view key, wstring_view display, value kind, std::array<slot, layouts> at)
+constexpr field plain(wide_literal::text key, wstring_view display, value kind, std::array<slot, layouts> at)
 {
     return {key, display, kind, nullptr, {}, false, at};
 }
 
-constexpr field scaled(wstring_view key, wstring_view display, const field_scale& scale, bool is_signed,
+constexpr field scaled(wide_literal::text key, wstring_view display, const field_scale& scale, bool is_signed,
                        std::array<slot, layouts> at)
 {
     return {key, display, value::scaled, nullptr, scale, is_signed, at};

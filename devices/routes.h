@@ -33,7 +33,7 @@ static_assert(values_unique(switch_states) && values_unique(interfaces));
 // One field of a route: an address when `table` is empty, else an
 // enumeration shown through `table`.
 struct field {
-    wstring_view name;
+    wide_literal::text name;
     std::span<const OptionEntry> table;
 };
 

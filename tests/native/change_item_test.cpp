@@ -29,6 +29,13 @@ struct run {
     const char* xml;   // the XML items
 };
 
+// A key made at run time, as the field tables hold theirs: a literal with no
+// line feed.
+wide_literal::text key(const wstring& k)
+{
+    return {{k}};
+}
+
 // The XML items as the fragment shows them: every line three blanks in.
 std::string prefixed(std::string_view xml)
 {
@@ -75,8 +82,8 @@ TEST(ChangeList, TextItemsRunOnOneLine)
         const std::string text = written([&](output::text& out) {
             text_change_list list(out);
             for (const field& f : r.fields)
-                list.add({wide(std::string("key-") + f.name), wide(f.name)}, f.hasOld, f.oldValue, f.hasNew, f.newValue,
-                         modulation);
+                list.add({key(wide(std::string("key-") + f.name)), wide(f.name)}, f.hasOld, f.oldValue, f.hasNew,
+                         f.newValue, modulation);
         });
         EXPECT_EQ(text, r.text);
     }
@@ -88,7 +95,7 @@ TEST(ChangeList, XmlItemsAreParameterElements)
         const std::string xml = written<output::xml>([&](output::xml& out) {
             xml_change_list list(out);
             for (const field& f : r.fields)
-                list.add({wide(f.name), wide(std::string("display-") + f.name)}, f.hasOld, f.oldValue, f.hasNew,
+                list.add({key(wide(f.name)), wide(std::string("display-") + f.name)}, f.hasOld, f.oldValue, f.hasNew,
                          f.newValue, modulation);
         });
         EXPECT_EQ(xml, prefixed(r.xml));
