@@ -21,7 +21,7 @@ unit_amount in_unit(const scaled_value& scaled)
     return {scaled.value.divided_by_ten_to(unit.exponent), unit};
 }
 
-scaled_text text_of(const scaled_value& scaled) noexcept
+scaled_text text_of(const scaled_value& scaled)
 {
     // The unit at the end, the blank, and the number made in place before it.
     const unit_amount converted = in_unit(scaled);

@@ -30,7 +30,7 @@ unit_amount in_unit(const scaled_value& scaled);
 
 // The number, one blank, the unit: "70 MHz", "-12.5 dBm", "0 Hz".
 using scaled_text = short_text<decimal_value::max_digits + 1 + max_unit_length>;
-scaled_text text_of(const scaled_value& scaled) noexcept;
+scaled_text text_of(const scaled_value& scaled);
 
 template <text_sink Out>
 Out& operator<<(Out& out, const scaled_value& scaled)
