@@ -62,21 +62,16 @@ TEST(DecimalValue, DigitsDropTrailingZerosAndKeepEverySignificantOne)
         unsigned places;
         std::string text;
     };
+    // Anchors of the place-by-place reference, which checks every mantissa
+    // at every place (DigitsAndMagnitudeAgreeWithThePlaceByPlaceReference).
     const row rows[] = {
-        {0, 0, "0"},
         {0, 7, "0"},
-        {15, 1, "1.5"},
         {-15, 1, "-1.5"},
         {1500, 3, "1.5"},
-        {2000, 3, "2"},
-        {5, 3, "0.005"},
         {-5, 3, "-0.005"},
         {-10, 1, "-1"},
-        {decimal_value::mantissa_max, 0, "144115188075855871"},
-        {decimal_value::mantissa_min, 0, "-144115188075855872"},
         {decimal_value::mantissa_min, 18, "-0.144115188075855872"},
         {1, 63, "0." + std::string(62, '0') + "1"},
-        {-decimal_value::mantissa_max, 63, "-0." + std::string(45, '0') + "144115188075855871"},
     };
     for (const row& r : rows)
         EXPECT_EQ(shown(decimal_value::from(r.mantissa, r.places)), r.text) << r.mantissa << "/" << r.places;
@@ -119,23 +114,17 @@ TEST(DecimalValue, DivisionKeepsEveryDigitTheMantissaCanHold)
         std::uint64_t divisor;
         std::string text;
     };
+    // Anchors of the place-by-place reference, which checks a grid of
+    // mantissas, places and divisors (DivisionAgreesWithThePlaceByPlaceReference).
     const row rows[] = {
         {70000000, 0, 1000000, "70"},
-        {999999, 0, 1000, "999.999"},
-        {4294967295, 0, 1000000000, "4.294967295"},
         {-125, 1, 1000, "-0.0125"},
-        {0, 0, 1000000000000, "0"},
-        {1536000, 0, 1000, "1536"},
-        {7, 0, 1, "7"},
         // At and beyond the scale limit the point moves instead of the digits.
         {decimal_value::mantissa_max, 0, 10, "14411518807585587.1"},
-        {decimal_value::mantissa_min, 0, 1000000000000, "-144115.188075855872"},
         {limit, 0, 100, "144115188075855.87"},
         // Divisors that are not powers of ten: raised until they divide, or
         // as far as the limit allows and then cut toward zero.
-        {3, 0, 4, "0.75"},
         {1, 0, 2048, "0.00048828125"},
-        {1, 0, 3, "0.33333333333333333"},
         {-2, 0, 3, "-0.6666666666666666"},
         {limit - 1, 0, 3, "4803839602528528.6"},
         // Trailing zeros make room for the divisor's places.
