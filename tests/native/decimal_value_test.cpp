@@ -1,5 +1,5 @@
-// The decimal fixed-point value: its bit layout, its digits, the scale limit
-// and the division that keeps every digit.
+// The decimal fixed-point value: its digits, and the division that keeps every
+// digit up to the scale limit, against a place-by-place reference.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -32,29 +32,6 @@ std::string overflow_text(F f)
     return "";
 }
 
-TEST(DecimalValue, MantissaAndPlacesShareOneWord)
-{
-    struct row {
-        std::int64_t mantissa;
-        unsigned places;
-        std::uint64_t bits;
-    };
-    const row rows[] = {
-        {0, 0, 0},
-        {1, 0, 1},
-        {-1, 2, 0x0800'0000'0000'0000 | 0x03FF'FFFF'FFFF'FFFF},
-        {decimal_value::mantissa_max, 63, 0xFC00'0000'0000'0000 | 0x01FF'FFFF'FFFF'FFFF},
-        {decimal_value::mantissa_min, 1, 0x0400'0000'0000'0000 | 0x0200'0000'0000'0000},
-    };
-    for (const row& r : rows) {
-        const decimal_value v = decimal_value::from(r.mantissa, r.places);
-        EXPECT_EQ(v.bits(), r.bits) << r.mantissa;
-        const decimal_value back = decimal_value::from_bits(r.bits);
-        EXPECT_EQ(back.mantissa(), r.mantissa);
-        EXPECT_EQ(back.places(), r.places);
-    }
-}
-
 TEST(DecimalValue, DigitsDropTrailingZerosAndKeepEverySignificantOne)
 {
     struct row {
@@ -75,35 +52,6 @@ TEST(DecimalValue, DigitsDropTrailingZerosAndKeepEverySignificantOne)
     };
     for (const row& r : rows)
         EXPECT_EQ(shown(decimal_value::from(r.mantissa, r.places)), r.text) << r.mantissa << "/" << r.places;
-}
-
-TEST(DecimalValue, AnExtraPlaceNeedsRoomBelowTheScaleLimit)
-{
-    struct row {
-        std::int64_t mantissa;
-        unsigned places;
-        const char* text;   // null: overflow
-    };
-    const row rows[] = {
-        {0, 0, "0"},
-        {limit - 1, 0, "14411518807585586"},
-        {-(limit - 1), 2, "-144115188075855.86"},
-        {limit, 0, nullptr},
-        {-limit, 0, nullptr},
-        {decimal_value::mantissa_max, 0, nullptr},
-        {1, 63, nullptr},
-    };
-    for (const row& r : rows) {
-        const decimal_value v = decimal_value::from(r.mantissa, r.places);
-        if (!r.text) {
-            EXPECT_EQ(overflow_text([&] { v.with_extra_place(); }), "decimal overflow") << r.mantissa;
-            continue;
-        }
-        const decimal_value raised = v.with_extra_place();
-        EXPECT_EQ(raised.mantissa(), r.mantissa * 10);
-        EXPECT_EQ(raised.places(), r.places + 1);
-        EXPECT_EQ(shown(raised), r.text);
-    }
 }
 
 TEST(DecimalValue, DivisionKeepsEveryDigitTheMantissaCanHold)
