@@ -33,14 +33,6 @@ void release_checked(IUnknown* object, const char* what)
     EXPECT_EQ(object->Release(), 0u) << what;
 }
 
-template <class Interface>
-com_ptr<Interface> class_object()
-{
-    com_ptr<Interface> object;
-    EXPECT_EQ(module().DllGetClassObject(CLSID_KorMoniker, __uuidof(Interface), object.put_void()), S_OK);
-    return object;
-}
-
 class Lifetime : public testing::Test {
 protected:
     void SetUp() override
@@ -72,19 +64,20 @@ TEST_F(Lifetime, EveryObjectInEveryWayItIsMade)
         },
         [] {
             IUnknown* moniker = nullptr;
-            class_object<IClassFactory>()->CreateInstance(nullptr, IID_IMoniker, reinterpret_cast<void**>(&moniker));
+            module().class_object<IClassFactory>()->CreateInstance(nullptr, IID_IMoniker,
+                                                                   reinterpret_cast<void**>(&moniker));
             return moniker;
         },
         [] {
             ULONG eaten = 0;
             IMoniker* moniker = nullptr;
-            class_object<IParseDisplayName>()->ParseDisplayName(nullptr, const_cast<LPOLESTR>(L"kor:transponder-3"),
-                                                                &eaten, &moniker);
+            module().class_object<IParseDisplayName>()->ParseDisplayName(
+                nullptr, const_cast<LPOLESTR>(L"kor:transponder-3"), &eaten, &moniker);
             return moniker;
         },
         [] {
             IMoniker* moniker = nullptr;
-            class_object<ICreateKorMoniker>()->CreateDeviceMonikerEx(52, 0x0A000001, 3, 7, &moniker);
+            module().class_object<ICreateKorMoniker>()->CreateDeviceMonikerEx(52, 0x0A000001, 3, 7, &moniker);
             // Another of its interfaces holds the same single reference.
             IKorMoniker* kor = nullptr;
             moniker->QueryInterface(IID_IKorMoniker, reinterpret_cast<void**>(&kor));
@@ -98,12 +91,12 @@ TEST_F(Lifetime, EveryObjectInEveryWayItIsMade)
             stream->Write(bytes, sizeof bytes, nullptr);
             stream->Seek({}, STREAM_SEEK_SET, nullptr);
             IUnknown* moniker = nullptr;
-            class_object<IClassFromStreamFactory>()->CreateFromStream(stream.get(), IID_IPersistStream,
-                                                                      reinterpret_cast<void**>(&moniker));
+            module().class_object<IClassFromStreamFactory>()->CreateFromStream(stream.get(), IID_IPersistStream,
+                                                                               reinterpret_cast<void**>(&moniker));
             return moniker;
         },
         // The class object lives with the module; holding it keeps the module.
-        [] { return static_cast<IUnknown*>(class_object<IClassFactory>().detach()); },
+        [] { return static_cast<IUnknown*>(module().class_object<IClassFactory>().detach()); },
     };
     for (std::size_t i = 0; i < std::size(makers); ++i) {
         IUnknown* object = makers[i]();
@@ -122,7 +115,7 @@ TEST_F(Lifetime, ProxyStubObjects)
     IPSFactoryBuffer* factory = nullptr;
     ASSERT_EQ(module().DllGetClassObject(proxy_stub, IID_IPSFactoryBuffer, reinterpret_cast<void**>(&factory)), S_OK);
     IMoniker* moniker = nullptr;
-    class_object<ICreateKorMoniker>()->CreateTransponderMoniker(5, &moniker);
+    module().class_object<ICreateKorMoniker>()->CreateTransponderMoniker(5, &moniker);
     IRpcStubBuffer* stub = nullptr;
     ASSERT_EQ(factory->CreateStub(IID_IKorMoniker, moniker, &stub), S_OK);
     EXPECT_EQ(stub->AddRef(), 2u);
@@ -149,7 +142,7 @@ TEST_F(Lifetime, ObjectsMadeAndReleasedFromEightThreads)
                 clone->Release();
                 ULONG eaten = 0;
                 IMoniker* moniker = nullptr;
-                class_object<IParseDisplayName>()->ParseDisplayName(
+                module().class_object<IParseDisplayName>()->ParseDisplayName(
                     nullptr, const_cast<LPOLESTR>(L"kor:fcn1l-10.0.0.1"), &eaten, &moniker);
                 IMoniker* copy = nullptr;
                 moniker->QueryInterface(IID_IMoniker, reinterpret_cast<void**>(&copy));
@@ -215,7 +208,7 @@ TEST_F(Lifetime, NoTaskMemory)
     // So does a display name handed to a client.
     spy.armed = false;
     IMoniker* moniker = nullptr;
-    class_object<ICreateKorMoniker>()->CreateTransponderMoniker(5, &moniker);
+    module().class_object<ICreateKorMoniker>()->CreateTransponderMoniker(5, &moniker);
     spy.armed = true;
     LPOLESTR name = reinterpret_cast<LPOLESTR>(&name);
     EXPECT_EQ(moniker->GetDisplayName(nullptr, nullptr, &name), E_OUTOFMEMORY);
