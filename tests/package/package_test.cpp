@@ -122,21 +122,11 @@ DWORD regsvr32(const std::wstring& arguments)
 
 // ---- the package's own database -------------------------------------------
 
-class msi_handle {
-public:
-    msi_handle() = default;
-    msi_handle(const msi_handle&) = delete;
-    msi_handle& operator=(const msi_handle&) = delete;
-    ~msi_handle()
-    {
-        if (handle_)
-            MsiCloseHandle(handle_);
-    }
-    MSIHANDLE* put() { return &handle_; }
-    operator MSIHANDLE() const { return handle_; }
-
-private:
-    MSIHANDLE handle_ = 0;
+struct msi_handle {
+    MSIHANDLE handle = 0;
+    ~msi_handle() { MsiCloseHandle(handle); }   // a handle of 0 is no handle: nothing happens
+    MSIHANDLE* put() { return &handle; }
+    operator MSIHANDLE() const { return handle; }
 };
 
 std::wstring package_property(const std::wstring& package, const std::wstring& name)
