@@ -5,37 +5,11 @@
 // promised maximum.
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
-#include <exception>
-#include <vector>
 
 #include "core/errors.h"
 #include "fuzz/fuzz_check.h"
 #include "moniker/kor_name_stream.h"
-
-namespace {
-
-struct memory_source final : byte_source {
-    const std::uint8_t* bytes;
-    std::size_t size;
-    std::size_t at = 0;
-
-    memory_source(const std::uint8_t* b, std::size_t n) : bytes(b), size(n) {}
-    void read(std::uint8_t* out, std::size_t count) override
-    {
-        if (count > size - at)
-            throw io::underflow();
-        std::memcpy(out, bytes + at, count);
-        at += count;
-    }
-};
-
-struct memory_sink final : byte_sink {
-    std::vector<std::uint8_t> bytes;
-    void write(const std::uint8_t* data, std::size_t count) override { bytes.insert(bytes.end(), data, data + count); }
-};
-
-}   // namespace
+#include "tests/common/memory_bytes.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -56,17 +56,24 @@ TEST(AlarmTypeMap, LaterRecordOfAnIdentifierWins)
     EXPECT_STREQ(alarm_types::name_of(carrier), "Carrier Lost");
 }
 
-TEST(AlarmTypeMap, NothingToRegisterChangesNothing)
+// Unknown and nameless identifiers are bad alarm ids; an empty or missing
+// list registers nothing; a name registered late is found from then on.
+TEST(AlarmTypeMap, WhatIsNotRegisteredIsABadAlarmId)
 {
-    const GUID known = fresh_id(), unknown = fresh_id();
-    const alarm_type_record first[] = {{known, "Link"}};
-    alarm_types::register_records(1, first);
-    const alarm_type_record ignored[] = {{known, "Replaced"}, {unknown, "New"}};
+    const GUID known = fresh_id(), late = fresh_id(), nameless = fresh_id();
+    const alarm_type_record first[] = {{known, "Link"}, {nameless, nullptr}};
+    alarm_types::register_records(2, first);
+    const alarm_type_record ignored[] = {{known, "Replaced"}, {late, "New"}};
     EXPECT_EQ(alarm_types::register_records(0, ignored), 0);
     EXPECT_EQ(alarm_types::register_records(-1, ignored), 0);
     EXPECT_EQ(alarm_types::register_records(2, nullptr), 0);
     EXPECT_STREQ(alarm_types::name_of(known), "Link");
-    EXPECT_EQ(error_of(unknown), "bad alarm id");
+    EXPECT_EQ(error_of(late), "bad alarm id");
+    EXPECT_EQ(error_of(nameless), "bad alarm id");
+
+    const alarm_type_record late_record[] = {{late, "Late"}};
+    alarm_types::register_records(1, late_record);
+    EXPECT_STREQ(alarm_types::name_of(late), "Late");
 }
 
 // The host owns the text: the map hands back the very pointer it was given.
@@ -77,20 +84,6 @@ TEST(AlarmTypeMap, KeepsTheHostsTextNotACopy)
     const alarm_type_record records[] = {{id, name}};
     alarm_types::register_records(1, records);
     EXPECT_EQ(alarm_types::name_of(id), name);
-}
-
-TEST(AlarmTypeMap, UnknownOrNamelessIdentifierIsABadAlarmId)
-{
-    const GUID late = fresh_id(), nameless = fresh_id();
-    EXPECT_EQ(error_of(late), "bad alarm id");
-    const alarm_type_record without_name[] = {{nameless, nullptr}};
-    alarm_types::register_records(1, without_name);
-    EXPECT_EQ(error_of(nameless), "bad alarm id");
-
-    // Registered late, found from then on.
-    const alarm_type_record late_record[] = {{late, "Late"}};
-    alarm_types::register_records(1, late_record);
-    EXPECT_STREQ(alarm_types::name_of(late), "Late");
 }
 
 // Identifiers that differ in any single byte are different alarms.

@@ -1,5 +1,5 @@
-// The decimal fixed-point value: its bit layout, its digits, the scale limit
-// and the division that keeps every digit.
+// The decimal fixed-point value: its digits, and the division that keeps every
+// digit up to the scale limit, against a place-by-place reference.
 #include <gtest/gtest.h>
 
 #include <climits>
@@ -32,29 +32,6 @@ std::string overflow_text(F f)
     return "";
 }
 
-TEST(DecimalValue, MantissaAndPlacesShareOneWord)
-{
-    struct row {
-        std::int64_t mantissa;
-        unsigned places;
-        std::uint64_t bits;
-    };
-    const row rows[] = {
-        {0, 0, 0},
-        {1, 0, 1},
-        {-1, 2, 0x0800'0000'0000'0000 | 0x03FF'FFFF'FFFF'FFFF},
-        {decimal_value::mantissa_max, 63, 0xFC00'0000'0000'0000 | 0x01FF'FFFF'FFFF'FFFF},
-        {decimal_value::mantissa_min, 1, 0x0400'0000'0000'0000 | 0x0200'0000'0000'0000},
-    };
-    for (const row& r : rows) {
-        const decimal_value v = decimal_value::from(r.mantissa, r.places);
-        EXPECT_EQ(v.bits(), r.bits) << r.mantissa;
-        const decimal_value back = decimal_value::from_bits(r.bits);
-        EXPECT_EQ(back.mantissa(), r.mantissa);
-        EXPECT_EQ(back.places(), r.places);
-    }
-}
-
 TEST(DecimalValue, DigitsDropTrailingZerosAndKeepEverySignificantOne)
 {
     struct row {
@@ -62,53 +39,19 @@ TEST(DecimalValue, DigitsDropTrailingZerosAndKeepEverySignificantOne)
         unsigned places;
         std::string text;
     };
+    // Anchors of the place-by-place reference, which checks every mantissa
+    // at every place (DigitsAndMagnitudeAgreeWithThePlaceByPlaceReference).
     const row rows[] = {
-        {0, 0, "0"},
         {0, 7, "0"},
-        {15, 1, "1.5"},
         {-15, 1, "-1.5"},
         {1500, 3, "1.5"},
-        {2000, 3, "2"},
-        {5, 3, "0.005"},
         {-5, 3, "-0.005"},
         {-10, 1, "-1"},
-        {decimal_value::mantissa_max, 0, "144115188075855871"},
-        {decimal_value::mantissa_min, 0, "-144115188075855872"},
         {decimal_value::mantissa_min, 18, "-0.144115188075855872"},
         {1, 63, "0." + std::string(62, '0') + "1"},
-        {-decimal_value::mantissa_max, 63, "-0." + std::string(45, '0') + "144115188075855871"},
     };
     for (const row& r : rows)
         EXPECT_EQ(shown(decimal_value::from(r.mantissa, r.places)), r.text) << r.mantissa << "/" << r.places;
-}
-
-TEST(DecimalValue, AnExtraPlaceNeedsRoomBelowTheScaleLimit)
-{
-    struct row {
-        std::int64_t mantissa;
-        unsigned places;
-        const char* text;   // null: overflow
-    };
-    const row rows[] = {
-        {0, 0, "0"},
-        {limit - 1, 0, "14411518807585586"},
-        {-(limit - 1), 2, "-144115188075855.86"},
-        {limit, 0, nullptr},
-        {-limit, 0, nullptr},
-        {decimal_value::mantissa_max, 0, nullptr},
-        {1, 63, nullptr},
-    };
-    for (const row& r : rows) {
-        const decimal_value v = decimal_value::from(r.mantissa, r.places);
-        if (!r.text) {
-            EXPECT_EQ(overflow_text([&] { v.with_extra_place(); }), "decimal overflow") << r.mantissa;
-            continue;
-        }
-        const decimal_value raised = v.with_extra_place();
-        EXPECT_EQ(raised.mantissa(), r.mantissa * 10);
-        EXPECT_EQ(raised.places(), r.places + 1);
-        EXPECT_EQ(shown(raised), r.text);
-    }
 }
 
 TEST(DecimalValue, DivisionKeepsEveryDigitTheMantissaCanHold)
@@ -119,23 +62,17 @@ TEST(DecimalValue, DivisionKeepsEveryDigitTheMantissaCanHold)
         std::uint64_t divisor;
         std::string text;
     };
+    // Anchors of the place-by-place reference, which checks a grid of
+    // mantissas, places and divisors (DivisionAgreesWithThePlaceByPlaceReference).
     const row rows[] = {
         {70000000, 0, 1000000, "70"},
-        {999999, 0, 1000, "999.999"},
-        {4294967295, 0, 1000000000, "4.294967295"},
         {-125, 1, 1000, "-0.0125"},
-        {0, 0, 1000000000000, "0"},
-        {1536000, 0, 1000, "1536"},
-        {7, 0, 1, "7"},
         // At and beyond the scale limit the point moves instead of the digits.
         {decimal_value::mantissa_max, 0, 10, "14411518807585587.1"},
-        {decimal_value::mantissa_min, 0, 1000000000000, "-144115.188075855872"},
         {limit, 0, 100, "144115188075855.87"},
         // Divisors that are not powers of ten: raised until they divide, or
         // as far as the limit allows and then cut toward zero.
-        {3, 0, 4, "0.75"},
         {1, 0, 2048, "0.00048828125"},
-        {1, 0, 3, "0.33333333333333333"},
         {-2, 0, 3, "-0.6666666666666666"},
         {limit - 1, 0, 3, "4803839602528528.6"},
         // Trailing zeros make room for the divisor's places.

@@ -34,11 +34,12 @@ using table_of = std::span<const OptionEntry> demod_value_tables::*;
 
 TEST(DemodTables, LayoutSpecificTexts)
 {
-    const demod_value_tables *r1 = &demod_tables_r1, *r2 = &demod_tables_r2, *r3 = &demod_tables_r3;
+    const demod_value_tables* layouts[] = {nullptr, &demod_tables_r1, &demod_tables_r2, &demod_tables_r3};
+    constexpr int r1 = 1, r2 = 2, r3 = 3;
     const table_of fec_rate = &demod_value_tables::fecRate, fec_type = &demod_value_tables::fecType,
                    lnb = &demod_value_tables::lnbPower, band = &demod_value_tables::band;
     const struct {
-        const demod_value_tables* layout;
+        int layout;
         table_of table;
         std::uint8_t value;
         wstring_view expected;
@@ -66,11 +67,8 @@ TEST(DemodTables, LayoutSpecificTexts)
         {r3, &demod_value_tables::rollOff, 5, "5%"_w},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(text(lookup_option(c.layout->*c.table, c.value)), text(c.expected)) << "layout "
-                                                                                      << (c.layout == r1   ? 1
-                                                                                          : c.layout == r2 ? 2
-                                                                                                           : 3)
-                                                                                      << ", value " << int(c.value);
+        EXPECT_EQ(text(lookup_option(layouts[c.layout]->*c.table, c.value)), text(c.expected))
+            << "layout " << c.layout << ", value " << int(c.value);
 }
 
 }   // namespace

@@ -10,6 +10,7 @@
 
 #include <objidl.h>
 
+#include "core/com_ptr.h"
 #include "core/platform.h"
 #include "korps/korps_interfaces.h"
 #include "tests/wine/module_fixture.h"
@@ -30,15 +31,6 @@ void release_checked(IUnknown* object, const char* what)
     EXPECT_EQ(object->Release(), 1u) << what;
     EXPECT_EQ(module().DllCanUnloadNow(), S_FALSE) << what << " keeps the module";
     EXPECT_EQ(object->Release(), 0u) << what;
-}
-
-template <class Interface>
-Interface* class_object()
-{
-    Interface* object = nullptr;
-    EXPECT_EQ(module().DllGetClassObject(CLSID_KorMoniker, __uuidof(Interface), reinterpret_cast<void**>(&object)),
-              S_OK);
-    return object;
 }
 
 class Lifetime : public testing::Test {
@@ -71,25 +63,21 @@ TEST_F(Lifetime, EveryObjectInEveryWayItIsMade)
             return clone;
         },
         [] {
-            IClassFactory* factory = class_object<IClassFactory>();
             IUnknown* moniker = nullptr;
-            factory->CreateInstance(nullptr, IID_IMoniker, reinterpret_cast<void**>(&moniker));
-            factory->Release();
+            module().class_object<IClassFactory>()->CreateInstance(nullptr, IID_IMoniker,
+                                                                   reinterpret_cast<void**>(&moniker));
             return moniker;
         },
         [] {
-            IParseDisplayName* parser = class_object<IParseDisplayName>();
             ULONG eaten = 0;
             IMoniker* moniker = nullptr;
-            parser->ParseDisplayName(nullptr, const_cast<LPOLESTR>(L"kor:transponder-3"), &eaten, &moniker);
-            parser->Release();
+            module().class_object<IParseDisplayName>()->ParseDisplayName(
+                nullptr, const_cast<LPOLESTR>(L"kor:transponder-3"), &eaten, &moniker);
             return moniker;
         },
         [] {
-            ICreateKorMoniker* create = class_object<ICreateKorMoniker>();
             IMoniker* moniker = nullptr;
-            create->CreateDeviceMonikerEx(52, 0x0A000001, 3, 7, &moniker);
-            create->Release();
+            module().class_object<ICreateKorMoniker>()->CreateDeviceMonikerEx(52, 0x0A000001, 3, 7, &moniker);
             // Another of its interfaces holds the same single reference.
             IKorMoniker* kor = nullptr;
             moniker->QueryInterface(IID_IKorMoniker, reinterpret_cast<void**>(&kor));
@@ -97,18 +85,18 @@ TEST_F(Lifetime, EveryObjectInEveryWayItIsMade)
             return kor;
         },
         [] {
-            IClassFromStreamFactory* factory = class_object<IClassFromStreamFactory>();
-            IStream* stream = nullptr;
-            CreateStreamOnHGlobal(nullptr, TRUE, &stream);
+            com_ptr<IStream> stream;
+            CreateStreamOnHGlobal(nullptr, TRUE, stream.put());
             const BYTE bytes[] = {3, 0, 0, 0, 12, 0, 0, 0};
             stream->Write(bytes, sizeof bytes, nullptr);
             stream->Seek({}, STREAM_SEEK_SET, nullptr);
             IUnknown* moniker = nullptr;
-            factory->CreateFromStream(stream, IID_IPersistStream, reinterpret_cast<void**>(&moniker));
-            stream->Release();
-            factory->Release();
+            module().class_object<IClassFromStreamFactory>()->CreateFromStream(stream.get(), IID_IPersistStream,
+                                                                               reinterpret_cast<void**>(&moniker));
             return moniker;
         },
+        // The class object lives with the module; holding it keeps the module.
+        [] { return static_cast<IUnknown*>(module().class_object<IClassFactory>().detach()); },
     };
     for (std::size_t i = 0; i < std::size(makers); ++i) {
         IUnknown* object = makers[i]();
@@ -116,13 +104,6 @@ TEST_F(Lifetime, EveryObjectInEveryWayItIsMade)
         release_checked(object, ("object of maker " + std::to_string(i)).c_str());
         EXPECT_EQ(module().DllCanUnloadNow(), S_OK) << "maker " << i;
     }
-
-    // The class object lives with the module; holding it keeps the module.
-    IClassFactory* factory = class_object<IClassFactory>();
-    EXPECT_EQ(factory->AddRef(), 2u);
-    EXPECT_EQ(factory->Release(), 1u);
-    EXPECT_EQ(module().DllCanUnloadNow(), S_FALSE);
-    EXPECT_EQ(factory->Release(), 0u);
 }
 
 // The proxy/stub's class object and a stub it makes. By design the module's
@@ -134,9 +115,7 @@ TEST_F(Lifetime, ProxyStubObjects)
     IPSFactoryBuffer* factory = nullptr;
     ASSERT_EQ(module().DllGetClassObject(proxy_stub, IID_IPSFactoryBuffer, reinterpret_cast<void**>(&factory)), S_OK);
     IMoniker* moniker = nullptr;
-    ICreateKorMoniker* create = class_object<ICreateKorMoniker>();
-    create->CreateTransponderMoniker(5, &moniker);
-    create->Release();
+    module().class_object<ICreateKorMoniker>()->CreateTransponderMoniker(5, &moniker);
     IRpcStubBuffer* stub = nullptr;
     ASSERT_EQ(factory->CreateStub(IID_IKorMoniker, moniker, &stub), S_OK);
     EXPECT_EQ(stub->AddRef(), 2u);
@@ -161,15 +140,14 @@ TEST_F(Lifetime, ObjectsMadeAndReleasedFromEightThreads)
                 clone->Next(1, &record, nullptr);
                 e->Release();
                 clone->Release();
-                IParseDisplayName* parser = class_object<IParseDisplayName>();
                 ULONG eaten = 0;
                 IMoniker* moniker = nullptr;
-                parser->ParseDisplayName(nullptr, const_cast<LPOLESTR>(L"kor:fcn1l-10.0.0.1"), &eaten, &moniker);
+                module().class_object<IParseDisplayName>()->ParseDisplayName(
+                    nullptr, const_cast<LPOLESTR>(L"kor:fcn1l-10.0.0.1"), &eaten, &moniker);
                 IMoniker* copy = nullptr;
                 moniker->QueryInterface(IID_IMoniker, reinterpret_cast<void**>(&copy));
                 copy->Release();
                 moniker->Release();
-                parser->Release();
             }
             CoUninitialize();
         });
@@ -230,9 +208,7 @@ TEST_F(Lifetime, NoTaskMemory)
     // So does a display name handed to a client.
     spy.armed = false;
     IMoniker* moniker = nullptr;
-    ICreateKorMoniker* create = class_object<ICreateKorMoniker>();
-    create->CreateTransponderMoniker(5, &moniker);
-    create->Release();
+    module().class_object<ICreateKorMoniker>()->CreateTransponderMoniker(5, &moniker);
     spy.armed = true;
     LPOLESTR name = reinterpret_cast<LPOLESTR>(&name);
     EXPECT_EQ(moniker->GetDisplayName(nullptr, nullptr, &name), E_OUTOFMEMORY);

@@ -4,7 +4,11 @@
 
 #include <string>
 
+#include <gtest/gtest.h>
+
+#include "core/com_ptr.h"
 #include "include/korps/korps.h"
+#include "korps/korps_interfaces.h"
 
 class korps_module {
 public:
@@ -22,6 +26,15 @@ public:
     HRESULT(__stdcall* DllGetClassObject)(REFCLSID clsid, REFIID iid, void** ppv);
     HRESULT(__stdcall* DllRegisterServer)();
     HRESULT(__stdcall* DllUnregisterServer)();
+
+    // The moniker's class object through the given interface.
+    template <class Interface>
+    com_ptr<Interface> class_object() const
+    {
+        com_ptr<Interface> object;
+        EXPECT_EQ(DllGetClassObject(CLSID_KorMoniker, __uuidof(Interface), object.put_void()), S_OK);
+        return object;
+    }
 
     // Where the module was loaded from, as registration writes it.
     std::wstring path() const;

@@ -20,23 +20,6 @@ TEST(Platform, ComErrorNamesTheSystemsMessage)
     EXPECT_STREQ(com::error(static_cast<HRESULT>(0x80041234)).what(), "unknown error (0x80041234) occurred");
 }
 
-TEST(Platform, ErrorObjectReachesTheThread)
-{
-    EXPECT_EQ(guarded([]() -> HRESULT { throw io::underflow(); }), DISP_E_EXCEPTION);
-    EXPECT_EQ(platform::take_error_description(), "an underflow occured");
-
-    // A carried error object travels unchanged.
-    ICreateErrorInfo* creator = nullptr;
-    ASSERT_EQ(CreateErrorInfo(&creator), S_OK);
-    creator->SetDescription(const_cast<LPOLESTR>(L"stream broke"));
-    IErrorInfo* info = nullptr;
-    creator->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(&info));
-    creator->Release();
-    EXPECT_EQ(guarded([&]() -> HRESULT { throw com::error(STG_E_INCOMPLETE, info); }), STG_E_INCOMPLETE);
-    info->Release();
-    EXPECT_EQ(platform::take_error_description(), "stream broke");
-}
-
 TEST(Platform, NarrowTextIsWidenedWithTheAnsiCodePage)
 {
     std::array<wchar_t, 8> buffer{};
