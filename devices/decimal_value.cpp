@@ -84,14 +84,6 @@ decimal_value decimal_value::from(std::int64_t mantissa, unsigned places)
     return decimal_value(std::uint64_t(places) << mantissa_bits | low);
 }
 
-decimal_value decimal_value::with_extra_place() const
-{
-    const std::int64_t m = mantissa();
-    if (m <= -scale_limit || m >= scale_limit)
-        overflow();
-    return from(m * 10, places() + 1);
-}
-
 decimal_value decimal_value::divided_by(std::uint64_t divisor) const
 {
     if (divisor == 0)

@@ -29,9 +29,6 @@ public:
     // than 58 bits or the count of places more than 63.
     static decimal_value from(std::int64_t mantissa, unsigned places = 0);
 
-    static constexpr decimal_value from_bits(std::uint64_t bits) noexcept { return decimal_value(bits); }
-    constexpr std::uint64_t bits() const noexcept { return bits_; }
-
     constexpr std::int64_t mantissa() const noexcept
     {
         // Shift the sign bit of the 58-bit field to the top and back down again.
@@ -44,10 +41,6 @@ public:
         const std::int64_t m = mantissa();
         return m < 0 ? std::uint64_t(0) - static_cast<std::uint64_t>(m) : static_cast<std::uint64_t>(m);
     }
-
-    // The same value with one more decimal place (the mantissa times ten);
-    // "decimal overflow" once the mantissa has reached the scale limit.
-    decimal_value with_extra_place() const;
 
     // The quotient, with no digit lost where the mantissa can hold them all.
     //
