@@ -27,9 +27,11 @@ struct command_result {
 };
 
 // Reads the code and, after a failure, the error text with `ReadText`: most
-// events carry it in UTF-16, unit registration in 8-bit characters.
+// events carry it in UTF-16, unit registration in 8-bit characters. In line
+// in every renderer: called out of line, its result (the text's whole
+// buffer) costs a call and a frame on every success.
 template <auto ReadText = &payload_cursor::read_wstring>
-auto read_command_result(payload_cursor& in)
+[[gnu::always_inline]] inline auto read_command_result(payload_cursor& in)
 {
     using text = std::remove_cvref_t<std::invoke_result_t<decltype(ReadText), payload_cursor&>>;
     command_result<text> result{in.read_i32()};
@@ -83,7 +85,7 @@ struct reset_type {
 };
 
 template <text_sink Out>
-Out& operator<<(Out& out, const reset_type& type)
+[[gnu::always_inline]] inline Out& operator<<(Out& out, const reset_type& type)
 {
     if (const OptionEntry* name = find_row(reset_type_names, type.code))
         return out << option_text(*name) << type.wording.suffix;
