@@ -8,9 +8,10 @@
 // that does not fit is refused whole: io::overflow, and the buffer keeps
 // exactly what it held.
 //
-// An item whose length is known before it is written (a tag and its value, a
-// number) asks for its room once with `reserve` and fills it without further
-// checks.
+// An item whose pieces are known before it is written (a phrase, a tag and
+// its value) goes out with `put`, one room check for all its pieces; a layer
+// that adds pieces of its own asks for the room with `reserve` and fills it
+// without further checks.
 //
 // The counting form (constructed with output::counting over a scratch area)
 // writes into the scratch area and, where the writing form would refuse,

@@ -54,7 +54,7 @@ using body_writer = void (*)(payload_cursor&, output::xml&);
 // (<old-value/>), or a number read just before it is written.
 void old_and_new_texts(payload_cursor& in, output::xml& out)
 {
-    for (const output::element_name* name : {&"old-value"_tag, &"new-value"_tag}) {
+    for (const output::element_name* name : old_and_new) {
         out.open_element(*name);
         write_wide_text(in, out);
         out.close_line();
@@ -64,7 +64,7 @@ void old_and_new_texts(payload_cursor& in, output::xml& out)
 template <auto Read>
 void old_and_new_values(payload_cursor& in, output::xml& out)
 {
-    for (const output::element_name* name : {&"old-value"_tag, &"new-value"_tag}) {
+    for (const output::element_name* name : old_and_new) {
         out.open_element(*name);
         out.close_line_with(Read(in));
     }

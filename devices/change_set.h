@@ -3,6 +3,7 @@
 // its old and new value, in the body layout of its kind.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -27,6 +28,10 @@ struct section {
     wide_literal::text field;   // the `field` attribute, as the event spells it
     body kind;
 };
+
+// The two elements of a changed value, each on its line: the old value,
+// then the new, both read just before they are written.
+inline constexpr std::array<const output::element_name*, 2> old_and_new{&"old-value"_tag, &"new-value"_tag};
 
 struct change_set {
     std::size_t maskBytes;   // 1 or 2

@@ -3,6 +3,7 @@
 #include "core/mask_walk.h"
 #include "core/text_format.h"
 #include "core/xml_writer.h"
+#include "devices/change_set.h"
 
 namespace routes {
 namespace {
@@ -67,7 +68,7 @@ void write_modified_entries(payload_cursor& in, output::xml& out, std::span<cons
         }
         for_each_set_bit(in.read_u16(), layout, [&](const field& f, std::size_t) {
             out.open_line("changed"_tag, "field"_w, f.name);
-            for (const output::element_name* name : {&"old-value"_tag, &"new-value"_tag}) {
+            for (const output::element_name* name : change_sets::old_and_new) {
                 out.open_element(*name);
                 with_value(in, f, [&](const auto& value) { out.close_line_with(value); });
             }
